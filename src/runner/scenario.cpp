@@ -1,0 +1,467 @@
+#include "runner/scenario.h"
+
+#include <cctype>
+#include <cstdlib>
+#include <fstream>
+#include <iterator>
+#include <random>
+#include <sstream>
+
+#include "runner/delivered_files.h"
+#include "runner/values.h"
+#include "shell/program.h"
+
+namespace veridraw::script {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+fs::path makeTemporaryDirectory() {
+  std::string pattern = (fs::temp_directory_path() / "veridraw-scenario-XXXXXX").string();
+  if (mkdtemp(pattern.data()) == nullptr)
+    throw std::runtime_error("can't make a temporary working directory");
+  return pattern;
+}
+
+void expectWords(const std::vector<Token>& words, std::size_t count, const char* usage) {
+  if (words.size() != count) throw ScenarioFailure(std::string("usage: ") + usage);
+}
+
+int parseIndex(std::string_view text) {
+  if (text.empty() || text.size() > 6) throw ScenarioFailure("bad index: " + std::string(text));
+  for (const char c : text)
+    if (!std::isdigit(static_cast<unsigned char>(c)) && c != '-')
+      throw ScenarioFailure("bad index: " + std::string(text));
+  return std::stoi(std::string(text));
+}
+
+const std::map<std::string, Key>& keyNames() {
+  static const std::map<std::string, Key> names = {
+      {"Enter", Key::Enter},       {"Space", Key::Space},   {"Tab", Key::Tab},
+      {"Shift+Tab", Key::ShiftTab}, {"Backspace", Key::Backspace}, {"Delete", Key::Delete},
+      {"Left", Key::Left},         {"Right", Key::Right},   {"Up", Key::Up},
+      {"Down", Key::Down},         {"Home", Key::Home},     {"End", Key::End},
+      {"Escape", Key::Escape},
+  };
+  return names;
+}
+
+std::string stateText(const Application& program) {
+  switch (program.state()) {
+    case Application::State::NotStarted: return "not started";
+    case Application::State::Running: return "running";
+    case Application::State::Ended: return "ended";
+    case Application::State::Fatal:
+      return "ended by fatal error " + std::to_string(program.fatalError()->number()) + " (" +
+             program.fatalError()->text() + ")";
+  }
+  return "";
+}
+
+}  // namespace
+
+Scenario::Scenario(std::ostream& out, bool verbose)
+    : out_(out), verbose_(verbose), directory_(makeTemporaryDirectory()) {
+  commands_ = {
+      {"file", &Scenario::writeFile}, {"delete", &Scenario::deleteFile},
+      {"deliver", &Scenario::deliver}, {"start", &Scenario::start},
+      {"click", &Scenario::click},     {"type", &Scenario::type},
+      {"key", &Scenario::key},         {"reply", &Scenario::reply},
+      {"close", &Scenario::close},     {"expect", &Scenario::expect},
+      {"print", &Scenario::print},
+  };
+  if (verbose_) {
+    dialogs_.onShown([this](const DialogShown& dialog, const Reply& reply) {
+      out_ << "  dialog: " << describe(dialog) << " -> "
+           << (std::holds_alternative<int>(reply) ? std::to_string(std::get<int>(reply))
+                                                   : quote(std::get<std::string>(reply)))
+           << "\n";
+    });
+  }
+}
+
+Scenario::~Scenario() {
+  program_.reset();
+  std::error_code ignored;
+  fs::remove_all(directory_, ignored);
+}
+
+void Scenario::runLine(std::string_view line) {
+  const std::vector<Token> words = tokenize(line);
+  if (words.empty() || (!words[0].quoted && words[0].text.front() == '#')) return;
+  const auto command = commands_.find(words[0].quoted ? "" : words[0].text);
+  if (command == commands_.end()) throw ScenarioFailure("unknown command: " + words[0].text);
+  (this->*command->second)(words);
+}
+
+fs::path Scenario::pathOf(const std::string& name) const {
+  if (name.empty() || name.find('/') != std::string::npos || name == "." || name == "..")
+    throw ScenarioFailure("not a file name of the working directory: " + quote(name));
+  return directory_ / name;
+}
+
+std::string Scenario::fileContent(const std::string& name) const {
+  std::ifstream in(pathOf(name), std::ios::binary);
+  return std::string(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
+}
+
+void Scenario::writeFile(const Words& words) {
+  expectWords(words, 3, "file NAME \"CONTENT\"");
+  if (!words[2].quoted) throw ScenarioFailure("the content of a file is a quoted string");
+  std::ofstream out(pathOf(words[1].text), std::ios::binary | std::ios::trunc);
+  out << words[2].text;
+  if (!out) throw ScenarioFailure("can't write the file " + quote(words[1].text));
+}
+
+void Scenario::deleteFile(const Words& words) {
+  expectWords(words, 2, "delete NAME");
+  std::error_code ignored;
+  fs::remove(pathOf(words[1].text), ignored);
+}
+
+void Scenario::deliver(const Words& words) {
+  expectWords(words, 1, "deliver");
+  for (const DeliveredFile& file : deliveredFiles()) {
+    if (fs::exists(pathOf(file.name))) continue;
+    std::ofstream out(pathOf(file.name), std::ios::binary);
+    out << file.content;
+  }
+}
+
+void Scenario::start(const Words& words) {
+  expectWords(words, 1, "start");
+  if (program_) throw ScenarioFailure("the program has already been started");
+  program_ = std::make_unique<Application>(dialogs_, directory_);
+  addVeridrawForms(*program_);
+  program_->start(kFirstForm);
+  afterAction();
+}
+
+Application& Scenario::runningProgram(const char* action) const {
+  if (!program_) throw ScenarioFailure(std::string("can't ") + action + ": the program hasn't started");
+  if (!program_->running())
+    throw ScenarioFailure(std::string("can't ") + action + ": the program has " +
+                          stateText(*program_));
+  return *program_;
+}
+
+void Scenario::afterAction() {
+  if (verbose_ && program_ && program_->state() == Application::State::Fatal) {
+    const FatalError& error = *program_->fatalError();
+    out_ << "  fatal: Run-time error '" << error.number() << "': " << error.text() << "\n";
+  }
+}
+
+Scenario::Target Scenario::parseTarget(std::string_view text) {
+  Target target;
+  const std::size_t paren = text.find('(');
+  const std::string_view head = text.substr(0, paren);
+  const std::size_t dot = head.find('.');
+  if (dot != std::string_view::npos) {
+    target.form = std::string(head.substr(0, dot));
+    target.name = std::string(head.substr(dot + 1));
+  } else {
+    target.name = std::string(head);
+  }
+  if (target.name.empty()) throw ScenarioFailure("no control named in " + std::string(text));
+  if (paren == std::string_view::npos) return target;
+  if (text.back() != ')') throw ScenarioFailure("bad target: " + std::string(text));
+  const std::string_view inside = text.substr(paren + 1, text.size() - paren - 2);
+  const std::size_t range = inside.find("..");
+  target.indexed = true;
+  target.first = parseIndex(inside.substr(0, range));
+  target.last = range == std::string_view::npos ? target.first : parseIndex(inside.substr(range + 2));
+  if (target.last < target.first) throw ScenarioFailure("empty range in " + std::string(text));
+  return target;
+}
+
+Form& Scenario::formOf(const Target& target) const {
+  if (!program_) throw ScenarioFailure("the program hasn't started");
+  if (!program_->running())
+    throw ScenarioFailure("no form is on screen: the program has " + stateText(*program_));
+  if (target.form.empty()) {
+    if (program_->activeForm() == nullptr) throw ScenarioFailure("no form is on screen");
+    return *program_->activeForm();
+  }
+  Form* form = program_->findForm(target.form);
+  if (form == nullptr) throw ScenarioFailure("no form named " + target.form);
+  if (!form->loaded()) throw ScenarioFailure(target.form + " isn't loaded");
+  return *form;
+}
+
+std::vector<Control*> Scenario::resolve(const Target& target) const {
+  Form& form = formOf(target);
+  std::vector<Control*> controls;
+  if (!target.indexed) {
+    Control* control = form.find(target.name);
+    if (control == nullptr) {
+      throw ScenarioFailure(form.hasControlNamed(target.name)
+                                ? target.name + " is a control array: name an element"
+                                : form.name() + " has no control " + target.name);
+    }
+    controls.push_back(control);
+    return controls;
+  }
+  for (int index = target.first; index <= target.last; ++index) {
+    Control* control = form.find(target.name, index);
+    if (control == nullptr)
+      throw ScenarioFailure(form.name() + " has no control " + target.name + "(" +
+                            std::to_string(index) + ")");
+    controls.push_back(control);
+  }
+  return controls;
+}
+
+Control& Scenario::resolveOne(const std::string& text) const {
+  const Target target = parseTarget(text);
+  if (target.indexed && target.first != target.last)
+    throw ScenarioFailure("a range is allowed only in expect: " + text);
+  return *resolve(target).front();
+}
+
+Control& Scenario::userTarget(const std::string& text, const char* action) const {
+  runningProgram(action);
+  Control& control = resolveOne(text);
+  if (&control.form() != program_->activeForm())
+    throw ScenarioFailure(std::string("can't ") + action + " " + text + ": its form isn't on screen");
+  if (!control.visible())
+    throw ScenarioFailure(std::string("can't ") + action + " " + text + ": it is hidden");
+  return control;
+}
+
+void Scenario::click(const Words& words) {
+  if (words.size() != 2 && words.size() != 3)
+    throw ScenarioFailure("usage: click TARGET or click TARGET \"ITEM\"");
+  Control& control = userTarget(words[1].text, "click");
+  if (words.size() == 2) {
+    program_->click(control);
+  } else {
+    if (control.kind() != ControlKind::ListBox)
+      throw ScenarioFailure(words[1].text + " isn't a list box");
+    const auto& items = control.items();
+    int found = -1;
+    for (std::size_t i = 0; i < items.size() && found < 0; ++i)
+      if (items[i] == words[2].text) found = static_cast<int>(i);
+    if (found < 0) throw ScenarioFailure(words[1].text + " holds no item " + quote(words[2].text));
+    program_->selectItem(control, found);
+  }
+  afterAction();
+}
+
+void Scenario::type(const Words& words) {
+  expectWords(words, 2, "type \"TEXT\"");
+  runningProgram("type");
+  for (const char c : words[1].text) {
+    if (!program_->running()) break;  // the rest of the keys go to no program
+    if (program_->focus() == nullptr) throw ScenarioFailure("can't type: no control has the focus");
+    program_->typeCharacter(c);
+    afterAction();
+  }
+}
+
+void Scenario::key(const Words& words) {
+  expectWords(words, 2, "key NAME");
+  const std::string& name = words[1].text;
+  runningProgram("press a key");
+  if (name.size() == 5 && name.rfind("Alt+", 0) == 0 &&
+      std::isalpha(static_cast<unsigned char>(name[4]))) {
+    program_->pressAccessKey(name[4]);
+    afterAction();
+    return;
+  }
+  const auto known = keyNames().find(name);
+  if (known == keyNames().end()) throw ScenarioFailure("unknown key: " + name);
+  if (program_->focus() == nullptr) throw ScenarioFailure("can't press " + name + ": no control has the focus");
+  program_->pressKey(known->second);
+  afterAction();
+}
+
+void Scenario::reply(const Words& words) {
+  expectWords(words, 2, "reply N or reply \"TEXT\"");
+  if (words[1].quoted) {
+    dialogs_.queue(words[1].text);
+    return;
+  }
+  const Value value = parseValue(words[1]);
+  if (!std::holds_alternative<double>(value)) throw ScenarioFailure("reply wants a number or a string");
+  dialogs_.queue(static_cast<int>(std::get<double>(value)));
+}
+
+void Scenario::close(const Words& words) {
+  expectWords(words, 1, "close");
+  runningProgram("close the window");
+  program_->closeWindow();
+  afterAction();
+}
+
+std::string Scenario::focusName() const {
+  const Control* focused = program_ ? program_->focus() : nullptr;
+  return focused == nullptr ? "none" : focused->displayName();
+}
+
+void Scenario::expect(const Words& words) {
+  if (words.size() < 2) throw ScenarioFailure("usage: expect WHAT ...");
+  const std::string& what = words[1].text;
+  if (words[1].quoted) throw ScenarioFailure("expect what? " + quote(what));
+  if (what == "form") {
+    expectWords(words, 3, "expect form NAME");
+    const Form& form = formOf(Target{});
+    if (form.name() != words[2].text)
+      throw ScenarioFailure("expected form " + words[2].text + ", found " + form.name());
+  } else if (what == "focus") {
+    expectWords(words, 3, "expect focus TARGET");
+    Control& wanted = resolveOne(words[2].text);
+    if (program_->focus() != &wanted)
+      throw ScenarioFailure("expected the focus on " + wanted.displayName() + ", found it on " +
+                            focusName());
+  } else if (what == "items") {
+    if (words.size() < 3) throw ScenarioFailure("usage: expect items TARGET \"A\" ...");
+    Control& list = resolveOne(words[2].text);
+    if (list.kind() != ControlKind::ListBox) throw ScenarioFailure(words[2].text + " isn't a list box");
+    std::vector<std::string> wanted;
+    for (std::size_t i = 3; i < words.size(); ++i) wanted.push_back(words[i].text);
+    if (wanted != list.items()) {
+      std::string expected, found;
+      for (const auto& item : wanted) expected += " " + quote(item);
+      for (const auto& item : list.items()) found += " " + quote(item);
+      throw ScenarioFailure("expected items" + (expected.empty() ? " (none)" : expected) +
+                            ", found" + (found.empty() ? " (none)" : found));
+    }
+  } else if (what == "msgbox" || what == "inputbox") {
+    expectDialog(words);
+  } else if (what == "nodialog") {
+    expectWords(words, 2, "expect nodialog");
+    DialogShown dialog;
+    if (dialogs_.takeUnchecked(dialog))
+      throw ScenarioFailure("expected no unchecked dialog, found " + describe(dialog));
+  } else if (what == "file") {
+    expectWords(words, 4, "expect file NAME \"CONTENT\"");
+    if (!fs::is_regular_file(pathOf(words[2].text)))
+      throw ScenarioFailure("expected file " + quote(words[2].text) + ", found no such file");
+    const std::string found = fileContent(words[2].text);
+    if (found != words[3].text)
+      throw ScenarioFailure("expected file " + quote(words[2].text) + " to hold " +
+                            quote(words[3].text) + ", found " + quote(found));
+  } else if (what == "nofile") {
+    expectWords(words, 3, "expect nofile NAME");
+    if (fs::exists(pathOf(words[2].text)))
+      throw ScenarioFailure("expected no file " + quote(words[2].text) + ", found one holding " +
+                            quote(fileContent(words[2].text)));
+  } else if (what == "running" || what == "ended") {
+    expectWords(words, 2, "expect running, or expect ended");
+    const auto wanted = what == "running" ? Application::State::Running : Application::State::Ended;
+    if (!program_ || program_->state() != wanted)
+      throw ScenarioFailure("expected the program " + what + ", found it " +
+                            (program_ ? stateText(*program_) : "not started"));
+  } else if (what == "fatal") {
+    expectWords(words, 3, "expect fatal N");
+    const int wanted = parseIndex(words[2].text);
+    if (!program_ || program_->state() != Application::State::Fatal ||
+        program_->fatalError()->number() != wanted)
+      throw ScenarioFailure("expected fatal error " + std::to_string(wanted) + ", found the program " +
+                            (program_ ? stateText(*program_) : "not started"));
+  } else {
+    expectProperty(words);
+  }
+}
+
+void Scenario::expectDialog(const Words& words) {
+  const bool isMessage = words[1].text == "msgbox";
+  if (isMessage) {
+    expectWords(words, 5, "expect msgbox \"PROMPT\" BUTTONS \"TITLE\"");
+  } else {
+    expectWords(words, 7, "expect inputbox \"PROMPT\" \"TITLE\" \"DEFAULT\" X Y");
+  }
+  DialogShown wanted;
+  if (isMessage) {
+    wanted = MessageBoxShown{words[2].text, parseIndex(words[3].text), words[4].text};
+  } else {
+    wanted = InputBoxShown{words[2].text, words[3].text, words[4].text, parseIndex(words[5].text),
+                           parseIndex(words[6].text)};
+  }
+  DialogShown found;
+  if (!dialogs_.takeUnchecked(found))
+    throw ScenarioFailure("expected " + describe(wanted) + ", found no unchecked dialog");
+  if (describe(found) != describe(wanted))
+    throw ScenarioFailure("expected " + describe(wanted) + ", found " + describe(found));
+}
+
+void Scenario::expectProperty(const Words& words) {
+  expectWords(words, 3, "expect TARGET.PROPERTY VALUE");
+  const std::string& text = words[1].text;
+  const std::size_t dot = text.rfind('.');
+  if (dot == std::string::npos || dot + 1 == text.size())
+    throw ScenarioFailure("expect what? " + text);
+  const std::string property = text.substr(dot + 1);
+  const Value wanted = parseValue(words[2]);
+  for (Control* control : resolve(parseTarget(text.substr(0, dot)))) {
+    const std::optional<Value> found = readProperty(*control, property);
+    if (!found)
+      throw ScenarioFailure(control->displayName() + " has no property " + property);
+    if (!sameValue(wanted, *found)) {
+      const bool colour = isColourProperty(property);
+      throw ScenarioFailure("expected " + control->displayName() + "." + property + " " +
+                            formatValue(wanted, colour) + ", found " + formatValue(*found, colour));
+    }
+  }
+}
+
+std::string Scenario::describeProperty(const std::string& text) const {
+  const std::size_t dot = text.rfind('.');
+  if (dot == std::string::npos) throw ScenarioFailure("print what? " + text);
+  const std::string property = text.substr(dot + 1);
+  std::string lines;
+  for (Control* control : resolve(parseTarget(text.substr(0, dot)))) {
+    const std::optional<Value> found = readProperty(*control, property);
+    if (!found) throw ScenarioFailure(control->displayName() + " has no property " + property);
+    lines += control->displayName() + "." + property + " " +
+             formatValue(*found, isColourProperty(property)) + "\n";
+  }
+  return lines;
+}
+
+void Scenario::print(const Words& words) {
+  if (words.size() < 2) throw ScenarioFailure("usage: print WHAT");
+  const std::string& what = words[1].text;
+  if (what == "focus") {
+    out_ << "focus " << focusName() << "\n";
+  } else if (what == "form") {
+    out_ << "form " << formOf(Target{}).name() << "\n";
+  } else if (what == "items") {
+    expectWords(words, 3, "print items TARGET");
+    Control& list = resolveOne(words[2].text);
+    if (list.kind() != ControlKind::ListBox) throw ScenarioFailure(words[2].text + " isn't a list box");
+    out_ << "items " << words[2].text;
+    for (const auto& item : list.items()) out_ << " " << quote(item);
+    out_ << "\n";
+  } else if (what == "file") {
+    expectWords(words, 3, "print file NAME");
+    if (fs::is_regular_file(pathOf(words[2].text))) {
+      out_ << "file " << words[2].text << " " << quote(fileContent(words[2].text)) << "\n";
+    } else {
+      out_ << "nofile " << words[2].text << "\n";
+    }
+  } else {
+    expectWords(words, 2, "print TARGET.PROPERTY");
+    out_ << describeProperty(what);
+  }
+  out_.flush();
+}
+
+ScenarioResult runScenario(std::istream& in, std::ostream& out, bool verbose) {
+  Scenario scenario(out, verbose);
+  std::string line;
+  int number = 0;
+  while (std::getline(in, line)) {
+    ++number;
+    try {
+      scenario.runLine(line);
+    } catch (const ScenarioFailure& failure) {
+      return {false, number, failure.what()};
+    }
+  }
+  return {};
+}
+
+}  // namespace veridraw::script

@@ -1,0 +1,56 @@
+// The dialogs of a scenario: answers come from the queue of `reply` lines, and
+// every dialog shown is kept for the `expect msgbox` and `expect inputbox` checks.
+#pragma once
+
+#include <deque>
+#include <functional>
+#include <string>
+#include <variant>
+
+#include "screen/dialogs.h"
+
+namespace veridraw::script {
+
+struct MessageBoxShown {
+  std::string prompt;
+  int buttons = 0;
+  std::string title;
+};
+
+struct InputBoxShown {
+  std::string prompt;
+  std::string title;
+  std::string defaultText;
+  int xpos = 0;
+  int ypos = 0;
+};
+
+using DialogShown = std::variant<MessageBoxShown, InputBoxShown>;
+using Reply = std::variant<int, std::string>;  // a button number, or the text of an input box
+
+std::string describe(const DialogShown& dialog);
+
+class ScriptedDialogs : public Dialogs {
+ public:
+  void queue(Reply reply) { replies_.push_back(std::move(reply)); }
+  // The oldest dialog shown and not yet checked, taken off the list; none if empty.
+  bool takeUnchecked(DialogShown& dialog);
+  bool allChecked() const { return unchecked_.empty(); }
+  // Told of every dialog and its answer, for --verbose.
+  void onShown(std::function<void(const DialogShown&, const Reply&)> listener) {
+    listener_ = std::move(listener);
+  }
+
+  int MsgBox(const std::string& prompt, int buttons, const std::string& title) override;
+  std::string InputBox(const std::string& prompt, const std::string& title,
+                       const std::string& defaultText, int xpos, int ypos) override;
+
+ private:
+  Reply answer(const DialogShown& dialog, bool wantsText);
+
+  std::deque<Reply> replies_;
+  std::deque<DialogShown> unchecked_;
+  std::function<void(const DialogShown&, const Reply&)> listener_;
+};
+
+}  // namespace veridraw::script

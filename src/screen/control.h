@@ -1,0 +1,128 @@
+// A control of a form at run time: its properties, its list items and, for a
+// text box, its caret. One class serves all kinds; what a kind lacks is a
+// programming error to use.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "screen/design.h"
+
+namespace veridraw {
+
+class Form;
+
+class Control {
+ public:
+  Control(Form& form, const ControlDesign& design);
+  Control(const Control&) = delete;
+  Control& operator=(const Control&) = delete;
+
+  Form& form() const { return form_; }
+  const std::string& name() const { return name_; }
+  int index() const { return index_; }
+  bool isArrayElement() const { return index_ != kNotInArray; }
+  ControlKind kind() const { return kind_; }
+  // "Name" or "Name(3)", as messages name it.
+  std::string displayName() const;
+
+  // Text of a text box (assigning a different value fires Change at once,
+  // nested, and puts the caret at 0), or the selected item of a list box.
+  std::string text() const;
+  void setText(const std::string& value);
+  const std::string& caption() const { return caption_; }
+  void setCaption(const std::string& value) { caption_ = value; }
+
+  bool visible() const { return visible_; }
+  void setVisible(bool value);
+  bool enabled() const { return enabled_; }
+  void setEnabled(bool value);
+  bool locked() const { return locked_; }
+  void setLocked(bool value) { locked_ = value; }
+  bool tabStop() const { return tabStop_; }
+  void setTabStop(bool value) { tabStop_ = value; }
+  int tabIndex() const { return tabIndex_; }
+  void setTabIndex(int value) { tabIndex_ = value; }
+
+  std::int32_t backColor() const { return backColor_; }
+  void setBackColor(std::int32_t value) { backColor_ = value; }
+  std::int32_t foreColor() const { return foreColor_; }
+  void setForeColor(std::int32_t value) { foreColor_ = value; }
+  double fontSize() const { return fontSize_; }
+  void setFontSize(double value) { fontSize_ = value; }
+  bool fontBold() const { return fontBold_; }
+  void setFontBold(bool value) { fontBold_ = value; }
+  int borderStyle() const { return borderStyle_; }
+  void setBorderStyle(int value) { borderStyle_ = value; }
+
+  int left() const { return left_; }
+  void setLeft(int value) { left_ = value; }
+  int top() const { return top_; }
+  void setTop(int value) { top_ = value; }
+  int width() const { return width_; }
+  void setWidth(int value) { width_ = value; }
+  int height() const { return height_; }
+  void setHeight(int value) { height_ = value; }
+
+  const std::string& toolTipText() const { return toolTip_; }
+  Alignment alignment() const { return alignment_; }
+  const std::string& picture() const { return picture_; }
+
+  // SetFocus: the control must be visible and enabled, or fatal error 5.
+  void SetFocus();
+  bool canTakeFocus() const;
+
+  // List box.
+  void AddItem(const std::string& item);
+  void Clear();
+  int listCount() const { return static_cast<int>(items_.size()); }
+  const std::vector<std::string>& items() const { return items_; }
+  int listIndex() const { return listIndex_; }
+  void selectItem(int index);  // the user's selection; -1 for none
+  int topIndex() const { return topIndex_; }
+  void setTopIndex(int value);  // only scrolls
+
+  // Single-line editing by the user, at the caret; each returns whether the
+  // text changed (and Change has run). A locked box refuses them all.
+  int caret() const { return caret_; }
+  int selectionLength() const { return selectionLength_; }
+  void setCaret(int position);
+  bool typeCharacter(char c);
+  bool backspace();
+  bool deleteForward();
+
+  // The access key: the letter after "&" in the caption, upper-cased, or 0.
+  char accessKey() const;
+
+ private:
+  void replaceByUser(int from, int count, const std::string& insert);
+
+  Form& form_;
+  ControlKind kind_;
+  std::string name_;
+  int index_;
+  std::string text_;
+  std::string caption_;
+  std::string toolTip_;
+  bool visible_;
+  bool enabled_;
+  bool locked_;
+  bool tabStop_;
+  int tabIndex_ = 0;
+  std::int32_t backColor_;
+  std::int32_t foreColor_;
+  double fontSize_;
+  bool fontBold_;
+  int borderStyle_;
+  int left_, top_, width_, height_;
+  Alignment alignment_;
+  std::string picture_;
+  std::vector<std::string> items_;
+  int listIndex_ = -1;
+  int topIndex_ = 0;
+  int caret_ = 0;
+  int selectionLength_ = 0;
+};
+
+}  // namespace veridraw

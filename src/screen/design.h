@@ -1,0 +1,90 @@
+// The design of a control: what a form's designer file holds for it. A form is
+// built from a table of these; showing the form creates its controls from them.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace veridraw {
+
+enum class ControlKind { TextBox, Label, CommandButton, ListBox, Image, Document };
+
+enum class Alignment { Left, Right, Center };
+
+// Colours as 0x00BBGGRR.
+namespace colors {
+inline constexpr std::int32_t kWhite = 0xFFFFFF;
+inline constexpr std::int32_t kBlack = 0x000000;
+inline constexpr std::int32_t kRed = 0x0000FF;
+inline constexpr std::int32_t kBlue = 0xFF0000;
+inline constexpr std::int32_t kGreen = 0x008000;
+inline constexpr std::int32_t kYellow = 0x00FFFF;
+inline constexpr std::int32_t kNavy = 0x800000;
+inline constexpr std::int32_t kPaleYellow = 0xC0FFFF;
+inline constexpr std::int32_t kGrey = 0xC0C0C0;
+// The face colour of windows, buttons and labels that were given no colour.
+inline constexpr std::int32_t kButtonFace = 0xC0C0C0;
+}  // namespace colors
+
+inline constexpr int kNotInArray = -1;
+inline constexpr int kDefault = -1;
+
+struct ControlDesign {
+  ControlKind kind = ControlKind::Label;
+  std::string name;
+  int index = kNotInArray;  // element of a control array, from 1
+  int left = 0;
+  int top = 0;
+  int width = 0;
+  int height = 0;
+  std::string text;     // Text of a text box, Caption of a label or a button
+  std::string toolTip;  // ToolTipText
+  std::int32_t backColor = kDefault;  // kDefault: the kind's own colour
+  std::int32_t foreColor = colors::kBlack;
+  double fontSize = 8.25;
+  bool fontBold = false;
+  bool visible = true;
+  bool enabled = true;
+  bool locked = false;
+  bool tabStop = true;
+  int tabIndex = kDefault;  // kDefault: after the explicit ones, in table order
+  int borderStyle = kDefault;  // kDefault: 1 for text boxes, 0 for the rest
+  Alignment alignment = Alignment::Left;
+  std::string picture;  // the name of the drawing on an image or a picture button
+
+  // Modifiers, so that a design table reads one control to a line.
+  ControlDesign&& at(int element) && { return index = element, std::move(*this); }
+  ControlDesign&& tip(std::string value) && { return toolTip = std::move(value), std::move(*this); }
+  ControlDesign&& back(std::int32_t value) && { return backColor = value, std::move(*this); }
+  ControlDesign&& fore(std::int32_t value) && { return foreColor = value, std::move(*this); }
+  ControlDesign&& font(double size, bool bold = false) && {
+    fontSize = size;
+    fontBold = bold;
+    return std::move(*this);
+  }
+  ControlDesign&& hidden() && { return visible = false, std::move(*this); }
+  ControlDesign&& lockedBox() && { return locked = true, std::move(*this); }
+  ControlDesign&& noTabStop() && { return tabStop = false, std::move(*this); }
+  ControlDesign&& tab(int value) && { return tabIndex = value, std::move(*this); }
+  ControlDesign&& border(int value) && { return borderStyle = value, std::move(*this); }
+  ControlDesign&& centred() && { return alignment = Alignment::Center, std::move(*this); }
+  ControlDesign&& drawing(std::string value) && { return picture = std::move(value), std::move(*this); }
+};
+
+// A place on the form in twips: left, top, width, height.
+struct Place {
+  int left = 0;
+  int top = 0;
+  int width = 0;
+  int height = 0;
+};
+
+ControlDesign textBox(std::string name, Place place, std::string text = " ");
+ControlDesign label(std::string name, Place place, std::string caption);
+ControlDesign button(std::string name, Place place, std::string caption);
+ControlDesign pictureButton(std::string name, Place place, std::string drawing);
+ControlDesign listBox(std::string name, Place place);
+ControlDesign image(std::string name, Place place, std::string drawing);
+ControlDesign document(std::string name, Place place, std::string drawing);
+
+}  // namespace veridraw

@@ -1,0 +1,181 @@
+#include "screen/files.h"
+
+#include <cerrno>
+#include <fstream>
+#include <iterator>
+#include <system_error>
+
+#include "screen/fatal.h"
+#include "screen/strings.h"
+
+namespace veridraw {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+// Characters that no file name of the platform may hold.
+bool isForbiddenInName(unsigned char c) {
+  return c < 32 || c == '<' || c == '>' || c == ':' || c == '"' || c == '|' || c == '?' ||
+         c == '*';
+}
+
+[[noreturn]] void raiseForErrno(int error) {
+  switch (error) {
+    case ENOENT:
+    case ENOTDIR: raiseFatal(ErrorNumber::PathNotFound);
+    case EACCES:
+    case EPERM:
+    case EROFS: raiseFatal(ErrorNumber::PermissionDenied);
+    case ENAMETOOLONG: raiseFatal(ErrorNumber::BadFileNameOrNumber);
+    default: raiseFatal(ErrorNumber::PathFileAccessError);
+  }
+}
+
+bool isLineEnd(char c) { return c == '\r' || c == '\n'; }
+
+}  // namespace
+
+SequentialFiles::SequentialFiles(fs::path workingDirectory)
+    : directory_(std::move(workingDirectory)) {}
+
+SequentialFiles::~SequentialFiles() {
+  try {
+    CloseAll();
+  } catch (const FatalError&) {
+    // Nothing can be reported any more when the program is gone.
+  }
+}
+
+fs::path SequentialFiles::resolve(const std::string& name) const {
+  if (name.empty() || name == "." || name == "..") raiseFatal(ErrorNumber::BadFileNameOrNumber);
+  if (name.find('/') != std::string::npos || name.find('\\') != std::string::npos)
+    raiseFatal(ErrorNumber::PathNotFound);
+  for (const char c : name)
+    if (isForbiddenInName(static_cast<unsigned char>(c)))
+      raiseFatal(ErrorNumber::BadFileNameOrNumber);
+  return directory_ / name;
+}
+
+SequentialFiles::OpenFile& SequentialFiles::slot(int number, FileMode mode) {
+  if (number < 1 || number > kFileNumbers || !files_[number - 1] ||
+      files_[number - 1]->mode != mode)
+    raiseFatal(ErrorNumber::BadFileNameOrNumber);
+  return *files_[number - 1];
+}
+
+void SequentialFiles::Open(const std::string& name, FileMode mode, int number) {
+  if (number < 1 || number > kFileNumbers) raiseFatal(ErrorNumber::BadFileNameOrNumber);
+  if (files_[number - 1]) raiseFatal(ErrorNumber::FileAlreadyOpen);
+  const fs::path path = resolve(name);
+  std::error_code error;
+  const bool isDirectory = fs::is_directory(path, error);
+  OpenFile file{mode, path, {}, 0};
+  if (mode == FileMode::Input) {
+    if (isDirectory) raiseFatal(ErrorNumber::PathFileAccessError);
+    if (!fs::exists(path, error)) raiseFatal(ErrorNumber::FileNotFound);
+    errno = 0;
+    std::ifstream in(path, std::ios::binary);
+    if (!in) raiseForErrno(errno == 0 ? EIO : errno);
+    file.content.assign(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
+    if (in.bad()) raiseFatal(ErrorNumber::PathFileAccessError);
+  } else {
+    if (isDirectory) raiseFatal(ErrorNumber::PathFileAccessError);
+    errno = 0;
+    std::ofstream out(path, std::ios::binary | std::ios::trunc);
+    if (!out) raiseForErrno(errno == 0 ? EIO : errno);
+  }
+  files_[number - 1] = std::move(file);
+}
+
+void SequentialFiles::Print(int number, const std::string& text) {
+  OpenFile& file = slot(number, FileMode::Output);
+  file.content += text;
+  file.content += "\r\n";
+}
+
+void SequentialFiles::Print(int number, Integer value) {
+  const int plain = value;
+  Print(number, (plain < 0 ? "" : " ") + CStr(plain) + " ");
+}
+
+std::string SequentialFiles::readField(OpenFile& file, bool numeric) {
+  const std::string& text = file.content;
+  std::size_t& pos = file.position;
+  if (pos >= text.size()) raiseFatal(ErrorNumber::InputPastEndOfFile);
+  while (pos < text.size() && (text[pos] == ' ' || text[pos] == '\t')) ++pos;
+  std::string field;
+  if (pos < text.size() && text[pos] == '"') {
+    ++pos;
+    while (pos < text.size() && text[pos] != '"') field += text[pos++];
+    if (pos < text.size()) ++pos;
+    // What follows the closing quote up to the separator is passed over.
+    while (pos < text.size() && text[pos] != ',' && !isLineEnd(text[pos])) ++pos;
+  } else {
+    while (pos < text.size() && text[pos] != ',' && !isLineEnd(text[pos]) &&
+           !(numeric && (text[pos] == ' ' || text[pos] == '\t')))
+      field += text[pos++];
+    if (numeric)
+      while (pos < text.size() && (text[pos] == ' ' || text[pos] == '\t')) ++pos;
+  }
+  if (pos < text.size()) {
+    if (text[pos] == ',') {
+      ++pos;
+    } else if (text[pos] == '\r') {
+      ++pos;
+      if (pos < text.size() && text[pos] == '\n') ++pos;
+    } else if (text[pos] == '\n') {
+      ++pos;
+    }
+  }
+  return field;
+}
+
+void SequentialFiles::Input(int number, std::string& field) {
+  field = readField(slot(number, FileMode::Input), false);
+}
+
+void SequentialFiles::Input(int number, Integer& value) {
+  const std::string field = readField(slot(number, FileMode::Input), true);
+  value = field.empty() ? Integer(0) : StrictInteger(field);
+}
+
+void SequentialFiles::flush(OpenFile& file) {
+  if (file.mode != FileMode::Output) return;
+  errno = 0;
+  std::ofstream out(file.path, std::ios::binary | std::ios::trunc);
+  if (!out) raiseForErrno(errno == 0 ? EIO : errno);
+  out.write(file.content.data(), static_cast<std::streamsize>(file.content.size()));
+  out.close();
+  if (!out) raiseFatal(ErrorNumber::PathFileAccessError);
+}
+
+void SequentialFiles::Close(int number) {
+  if (number < 1 || number > kFileNumbers) raiseFatal(ErrorNumber::BadFileNameOrNumber);
+  std::optional<OpenFile> file = std::move(files_[number - 1]);
+  files_[number - 1].reset();
+  if (file) flush(*file);
+}
+
+void SequentialFiles::CloseAll() {
+  for (int number = 1; number <= kFileNumbers; ++number)
+    if (files_[number - 1]) Close(number);
+}
+
+void SequentialFiles::Kill(const std::string& name) {
+  const fs::path path = resolve(name);
+  std::error_code error;
+  if (fs::is_directory(path, error) || !fs::exists(path, error))
+    raiseFatal(ErrorNumber::FileNotFound);
+  if (!fs::remove(path, error)) raiseForErrno(error.value());
+}
+
+std::string SequentialFiles::Dir(const std::string& name) const {
+  if (name.empty() || name == "." || name == ".." || name.front() == '.') return "";
+  for (const char c : name)
+    if (c == '/' || c == '\\' || isForbiddenInName(static_cast<unsigned char>(c))) return "";
+  std::error_code error;
+  return fs::is_regular_file(directory_ / name, error) ? name : "";
+}
+
+}  // namespace veridraw

@@ -1,0 +1,123 @@
+// A form: one instance for the whole run. Its form-level variables are members
+// of the derived class and live as long as the program; its controls are made
+// from the design table at each Load and destroyed at Unload.
+#pragma once
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <utility>
+#include <vector>
+
+#include "screen/control.h"
+#include "screen/design.h"
+
+namespace veridraw {
+
+class Application;
+class SequentialFiles;
+
+enum class Event { Click, Change };
+
+inline constexpr const char* kFormCaption = "Veridraw";
+
+struct FormDesign {
+  std::string name;
+  int clientWidth = 0;   // twips
+  int clientHeight = 0;  // twips
+  std::int32_t backColor = colors::kButtonFace;
+  std::vector<ControlDesign> controls;
+};
+
+class Form {
+ public:
+  Form(Application& application, FormDesign design);
+  Form(const Form&) = delete;
+  Form& operator=(const Form&) = delete;
+  virtual ~Form();
+
+  const std::string& name() const { return design_.name; }
+  const FormDesign& design() const { return design_; }
+  Application& application() const { return application_; }
+
+  bool loaded() const { return loaded_; }
+  // Counts the loads, so that a face can tell a fresh set of controls.
+  int generation() const { return generation_; }
+
+  // A control by name; an element of a control array by name and index.
+  // A missing element is fatal error 340.
+  Control& control(std::string_view name);
+  Control& control(std::string_view name, int index);
+  Control* find(std::string_view name, int index = kNotInArray) const;
+  bool hasControlNamed(std::string_view name) const;
+  const std::vector<std::unique_ptr<Control>>& controls() const { return controls_; }
+  // The controls in the order of their TabIndex.
+  std::vector<Control*> tabOrder() const;
+
+  Control* focus() const { return focus_; }
+
+  // Runs the handler of that control and event, if the form has one.
+  void raise(Event event, Control& control);
+  bool hasHandler(const std::string& name, Event event) const;
+
+ protected:
+  using Handler = std::function<void(int index)>;
+  void on(const std::string& controlName, Event event, Handler handler);
+  void on(const std::string& controlName, Event event, std::function<void()> handler);
+
+  virtual void Form_Load() {}
+
+  // The platform operations, as the event procedures use them.
+  void Show(std::string_view formName);
+  void Unload();
+  [[noreturn]] void End();
+  int MsgBox(const std::string& prompt, int buttons, const std::string& title);
+  std::string InputBox(const std::string& prompt, const std::string& title,
+                       const std::string& defaultText, int xpos, int ypos);
+  SequentialFiles& files();
+
+ private:
+  friend class Application;
+  void load();
+  void destroyControls(std::vector<std::unique_ptr<Control>>& graveyard);
+  void setFocusPointer(Control* control) { focus_ = control; }
+
+  Application& application_;
+  FormDesign design_;
+  bool loaded_ = false;
+  int generation_ = 0;
+  std::vector<std::unique_ptr<Control>> controls_;
+  std::unordered_map<std::string, std::map<int, Control*>> byName_;
+  std::map<std::pair<std::string, Event>, Handler> handlers_;
+  Control* focus_ = nullptr;
+};
+
+// A control of a form by name, resolved at each use, since the controls are
+// made anew at each Load: `BtnYes->setVisible(false)`.
+class ControlRef {
+ public:
+  ControlRef(Form& form, std::string name) : form_(form), name_(std::move(name)) {}
+  Control* operator->() const { return &form_.control(name_); }
+  Control& operator*() const { return form_.control(name_); }
+
+ private:
+  Form& form_;
+  std::string name_;
+};
+
+// A control array of a form: `TxtDrawnNumbers(CellIndex).setText(" ")`.
+class ControlArray {
+ public:
+  ControlArray(Form& form, std::string name) : form_(form), name_(std::move(name)) {}
+  Control& operator()(int index) const { return form_.control(name_, index); }
+  const std::string& name() const { return name_; }
+
+ private:
+  Form& form_;
+  std::string name_;
+};
+
+}  // namespace veridraw

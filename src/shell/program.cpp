@@ -1,0 +1,13 @@
+#include "shell/program.h"
+
+#include "shell/veridraw7a.h"
+#include "shell/veridraw7d.h"
+
+namespace veridraw {
+
+void addVeridrawForms(Application& application) {
+  application.addForm<Veridraw7a>();
+  application.addForm<Veridraw7d>();
+}
+
+}  // namespace veridraw
