@@ -2,6 +2,7 @@
 
 #include <cctype>
 #include <cmath>
+#include <cstdio>
 #include <cstdint>
 
 #include "screen/fatal.h"
@@ -152,6 +153,12 @@ double StrictNumber(std::string_view text) {
 Integer StrictInteger(std::string_view text) { return Integer::fromDouble(StrictNumber(text)); }
 
 std::string CStr(int value) { return std::to_string(value); }
+
+std::string CStr(double value) {
+  char text[32];
+  std::snprintf(text, sizeof text, "%.15g", value);
+  return text;
+}
 
 std::string Left(std::string_view text, int count) {
   if (count < 0) raiseFatal(ErrorNumber::InvalidProcedureCall);

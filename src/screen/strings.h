@@ -22,6 +22,8 @@ Integer StrictInteger(std::string_view text);
 
 // Integer to text: plain decimal digits, a minus for a negative value, no blank.
 std::string CStr(int value);
+// A floating-point number to text as the runtime writes it: "705", "7.5".
+std::string CStr(double value);
 
 // Characters: Left and Mid give fewer characters at the end of the string and ""
 // past it; Mid counts its start from 1.
