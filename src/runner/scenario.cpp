@@ -298,7 +298,7 @@ void Scenario::close(const Words& words) {
 }
 
 std::string Scenario::focusName() const {
-  const Control* focused = program_ ? program_->focus() : nullptr;
+  const Control* focused = program_ && program_->running() ? program_->focus() : nullptr;
   return focused == nullptr ? "none" : focused->displayName();
 }
 
