@@ -21,6 +21,10 @@ void PrintTo(const FailCase& c, std::ostream* out) {
   *out << c.name;
 }
 
+std::string byName(const ::testing::TestParamInfo<FailCase>& info) {
+  return info.param.name;
+}
+
 class ScenarioFails : public ::testing::TestWithParam<FailCase> {};
 
 TEST_P(ScenarioFails, AtItsLineWithAReason) {
@@ -61,7 +65,7 @@ INSTANTIATE_TEST_SUITE_P(
         FailCase{"UnknownControl", "start\nexpect BtnNone.Visible True\n", 2, {"BtnNone"}},
         FailCase{"NotAValue", "start\nexpect BtnStart.Left left\n", 2, {"left"}},
         FailCase{"ArrayWithoutIndex", "start\nexpect LineA.Visible True\n", 2, {"LineA"}}),
-    [](const auto& info) { return info.param.name; });
+    byName);
 
 INSTANTIATE_TEST_SUITE_P(
     TargetsAndForms, ScenarioFails,
@@ -88,7 +92,7 @@ INSTANTIATE_TEST_SUITE_P(
             "TheFocusElsewhere", "start\nexpect focus CmdReadme\n", 2, {"CmdReadme", "BtnStart"}},
         FailCase{"ItemsOfAButton", "start\nexpect items BtnStart\n", 2, {"BtnStart", "list box"}},
         FailCase{"AFormAfterTheEnd", "start\nkey Alt+X\nexpect form Veridraw7a\n", 3, {"ended"}}),
-    [](const auto& info) { return info.param.name; });
+    byName);
 
 INSTANTIATE_TEST_SUITE_P(
     UserActions, ScenarioFails,
@@ -111,7 +115,7 @@ INSTANTIATE_TEST_SUITE_P(
         FailCase{"AnAltWithoutALetter", "start\nkey Alt+5\n", 2, {"Alt+5"}},
         FailCase{"AReplyThatIsNoAnswer", "reply True\n", 1, {"reply"}},
         FailCase{"StartingTwice", "start\nstart\n", 2, {"started"}}),
-    [](const auto& info) { return info.param.name; });
+    byName);
 
 INSTANTIATE_TEST_SUITE_P(
     ProgramState, ScenarioFails,
@@ -123,7 +127,7 @@ INSTANTIATE_TEST_SUITE_P(
         FailCase{"FatalWhileRunning", "start\nexpect fatal 53\n", 2, {"53", "running"}},
         FailCase{
             "FatalAfterAnEnd", "start\nclick CmdForm1Exit\nexpect fatal 53\n", 3, {"53", "ended"}}),
-    [](const auto& info) { return info.param.name; });
+    byName);
 
 INSTANTIATE_TEST_SUITE_P(
     DialogsAndFiles, ScenarioFails,
@@ -150,7 +154,7 @@ INSTANTIATE_TEST_SUITE_P(
                  2,
                  {"705", "\"705\\r\\n\""}},
         FailCase{"AFileNameWithAFolder", "file sub/x \"\"\n", 1, {"sub/x"}}),
-    [](const auto& info) { return info.param.name; });
+    byName);
 
 INSTANTIATE_TEST_SUITE_P(
     Lines, ScenarioFails,
@@ -166,7 +170,7 @@ INSTANTIATE_TEST_SUITE_P(
                  "start\nexpect form Veridraw7d\nfrobnicate\n",
                  2,
                  {"Veridraw7d"}}),
-    [](const auto& info) { return info.param.name; });
+    byName);
 
 }  // namespace
 }  // namespace veridraw
