@@ -23,15 +23,14 @@ TEST_P(ValReads, TheLongestNumericPrefix) {
   EXPECT_DOUBLE_EQ(Val(GetParam().text), GetParam().value) << "Val(\"" << GetParam().text << "\")";
 }
 
-INSTANTIATE_TEST_SUITE_P(Plain, ValReads,
-                         ::testing::Values(ValCase{"", 0}, ValCase{" ", 0}, ValCase{"  ", 0},
-                                           ValCase{"12", 12}, ValCase{"12 ", 12},
-                                           ValCase{" 12", 12}, ValCase{"07", 7}, ValCase{"07 ", 7},
-                                           ValCase{"1 2", 12}, ValCase{"1\t2\n3", 123},
-                                           ValCase{" 1615 198th Street N.E.", 1615198},
-                                           ValCase{"24 and 57", 24}, ValCase{"12abc", 12},
-                                           ValCase{"abc", 0}, ValCase{"X0308", 0},
-                                           ValCase{"1,000", 1}, ValCase{"$5", 0}));
+INSTANTIATE_TEST_SUITE_P(
+    Plain, ValReads,
+    ::testing::Values(ValCase{"", 0}, ValCase{" ", 0}, ValCase{"  ", 0}, ValCase{"12", 12},
+                      ValCase{"12 ", 12}, ValCase{" 12", 12}, ValCase{"07", 7}, ValCase{"07 ", 7},
+                      ValCase{"1 2", 12}, ValCase{"1\t2\n3", 123}, ValCase{"12\r34", 12},
+                      ValCase{" 1615 198th Street N.E.", 1615198}, ValCase{"24 and 57", 24},
+                      ValCase{"12abc", 12}, ValCase{"abc", 0}, ValCase{"X0308", 0},
+                      ValCase{"1,000", 1}, ValCase{"$5", 0}));
 
 INSTANTIATE_TEST_SUITE_P(SignsAndFractions, ValReads,
                          ::testing::Values(ValCase{"-3", -3}, ValCase{"+4", 4}, ValCase{"- 3", -3},
@@ -123,6 +122,14 @@ TEST(CStr, WritesAWholeFloatingValueWithoutAFraction) {
   EXPECT_EQ(CStr(705.0), "705");
   EXPECT_EQ(CStr(7.5), "7.5");
   EXPECT_EQ(CStr(-0.25), "-0.25");
+  EXPECT_EQ(CStr(123456789012345.0), "123456789012345");
+}
+
+TEST(CStr, WritesALargeOrSmallFloatingValueWithACapitalE) {
+  EXPECT_EQ(CStr(1e20), "1E+20");
+  EXPECT_EQ(CStr(1e15), "1E+15");
+  EXPECT_EQ(CStr(0.00001), "1E-05");
+  EXPECT_EQ(CStr(-2.5e-7), "-2.5E-07");
 }
 
 struct SliceCase {
