@@ -54,6 +54,8 @@ expect LineA(30).Left 3075
 expect LineA(30).Top 3240
 expect TextATxt(1..10).Visible True
 expect Veridraw7a.CmdReadme.Caption "&Readme"
+expect Veridraw7a.LineA(1..30).Visible True
+expect BtnStart.TabIndex 0
 expect running
 expect nodialog
 )"},
@@ -62,6 +64,8 @@ key Alt+R
 expect form Veridraw7d
 expect focus BtnStart
 expect BtnStart.BackColor 0xC0FFFF
+expect BtnStart.TabIndex 0
+expect CmdDisclaimer.BackColor 0xC0C0C0
 expect Label9.Caption " NOTE"
 expect Label6.Visible False
 expect Text2.Visible False
