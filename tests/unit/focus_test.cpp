@@ -102,6 +102,27 @@ TEST_F(ScreenTest, TabFromABoxWithoutTabStopGoesToTheNextTabStop) {
   EXPECT_EQ(focusName(), "Box");
 }
 
+TEST_F(ScreenTest, TabWithOneTabStopLeftKeepsTheFocusThere) {
+  start();
+  for (const char* name : {"Other", "BtnGo", "List", "Fixed"})
+    control(name).setVisible(false);
+  app.pressKey(Key::Tab);
+  EXPECT_EQ(focusName(), "Box");
+  app.pressKey(Key::ShiftTab);
+  EXPECT_EQ(focusName(), "Box");
+}
+
+TEST_F(ScreenTest, TabWithNoTabStopLeftKeepsTheFocusInItsBox) {
+  start();
+  cell(1).SetFocus();
+  for (const char* name : {"Box", "Other", "BtnGo", "List", "Fixed"})
+    control(name).setVisible(false);
+  app.pressKey(Key::Tab);
+  EXPECT_EQ(focusName(), "Cell(1)");
+  app.typeCharacter('7');
+  EXPECT_EQ(cell(1).text(), "7 ");
+}
+
 class ButtonKeys : public ScreenTest {
  protected:
   int clicks = 0;
