@@ -21,6 +21,16 @@ class Veridraw7f : public Form, private store::DrawFields {
  public:
   explicit Veridraw7f(Application& application);
 
+  static constexpr const char* kQuestion = "Are these numbers correct?";
+  // The tops of LblCorrectNumbers in the Lotto and in the Strike entry.
+  static constexpr int kLottoQuestionTop = 5520;
+  static constexpr int kStrikeQuestionTop = 4800;
+  static constexpr int kLottoCells = 8;
+  static constexpr int kMainNumbers = 6;
+  static constexpr int kBonusCell = 7;
+  static constexpr int kPowerBallCell = 8;
+  static constexpr int kStrikeCells = 4;
+
   // The draw in hand, as the form-level variables hold it.
   const store::DrawFields& drawInHand() const { return *this; }
 

@@ -6,8 +6,6 @@ namespace veridraw {
 
 namespace {
 
-constexpr const char* kQuestion = "Are these numbers correct?";
-
 // A cell of an entry or of the display: text " ", centred, never a tab stop.
 ControlDesign cell(std::string name, int index, Place place) {
   return textBox(std::move(name), place).at(index).centred().noTabStop();
@@ -112,7 +110,7 @@ FormDesign veridraw7fDesign() {
     shown("TxtDrawnNumeric", 4, {5880, 4965, 350, 300}).hidden(),
     shown("TxtDrawnNumeric", 5, {6240, 4965, 350, 300}).hidden(),
     shown("TxtDrawnNumeric", 6, {6600, 4965, 350, 300}).hidden(),
-    label("LblCorrectNumbers", {4680, 5520, 2400, 255}, kQuestion).back(colors::kBlue).fore(colors::kWhite).hidden(),
+    label("LblCorrectNumbers", {4680, 5520, 2400, 255}, Veridraw7f::kQuestion).back(colors::kBlue).fore(colors::kWhite).hidden(),
 
     // The Strike entry: four numbers in the drawn order.
     label("LblDrawnOrder2", {4680, 3600, 2415, 495}, " Enter the Strike Numbers in the drawn order").back(colors::kYellow).fore(colors::kRed).hidden(),
