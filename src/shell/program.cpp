@@ -1,5 +1,6 @@
 #include "shell/program.h"
 
+#include "draws/veridraw7f.h"
 #include "shell/veridraw7a.h"
 #include "shell/veridraw7d.h"
 
@@ -8,6 +9,7 @@ namespace veridraw {
 void addVeridrawForms(Application& application) {
   application.addForm<Veridraw7a>();
   application.addForm<Veridraw7d>();
+  application.addForm<Veridraw7f>();
 }
 
 }  // namespace veridraw
