@@ -1,0 +1,18 @@
+// The pictures of the three games, drawn so that they are plainly told apart:
+// Lotto a row of coloured balls, Strike four balls in order with arrows,
+// PowerBall one big ball with a lightning mark.
+#pragma once
+
+#include <QPainter>
+#include <QRectF>
+
+namespace veridraw::gui {
+
+void paintLotto(QPainter& painter, const QRectF& area);
+void paintStrike(QPainter& painter, const QRectF& area);
+void paintPowerBall(QPainter& painter, const QRectF& area);
+
+// A lightning bolt standing in the box.
+void drawLightning(QPainter& painter, const QRectF& box, const QColor& colour);
+
+}  // namespace veridraw::gui
