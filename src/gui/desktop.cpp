@@ -85,6 +85,7 @@ void Desktop::showWindowFor(Form& form) {
   window_ = new FormWindow(*this, form);
   window_->sync();
   window_->show();
+  window_->centreOnScreen();
   window_->activateWindow();
   window_->setFocus();
   discard(previous);

@@ -44,8 +44,13 @@ FormWindow::FormWindow(Desktop& desktop, Form& form)
         views_.push_back(new ControlView(*this, *control));
     }
   }
-  const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
-  move(screen.center() - rect().center());
+  centreOnScreen();
+}
+
+void FormWindow::centreOnScreen() {
+  QRect frame = frameGeometry();
+  frame.moveCenter(QGuiApplication::primaryScreen()->availableGeometry().center());
+  move(frame.topLeft());
 }
 
 bool FormWindow::showsCurrentControls() const {

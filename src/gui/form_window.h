@@ -19,6 +19,8 @@ class FormWindow : public QWidget {
   FormWindow(Desktop& desktop, Form& form);
 
   Form& form() const { return form_; }
+  // Centres the window, with its frame once the frame is known.
+  void centreOnScreen();
   // Whether the form still has the controls that this window was made for.
   bool showsCurrentControls() const;
   // Takes over the state of every control; call only while showsCurrentControls().
