@@ -127,7 +127,7 @@ class ControlsTest : public QObject {
   void theScreenIsRedrawnBeforeAMessageBoxShows() {
     bool sawRed = false;
     QString title;
-    whenDialogShows([&](QWidget* dialog) {
+    const DialogAnswer reply([&](QWidget* dialog) {
       const ControlView& entry = *view("Entry");
       const QImage screen = program_->window()->grab().toImage();
       sawRed = entry.look().background == QColor(255, 0, 0) &&
@@ -137,6 +137,7 @@ class ControlsTest : public QObject {
       box->button(QMessageBox::Ok)->click();
     });
     QTest::keyClick(program_->window(), Qt::Key_W, Qt::AltModifier);
+    QVERIFY(reply.answered());
     QVERIFY(sawRed);
     QCOMPARE(title, "WARNING");
     QCOMPARE(view("Entry")->look().background, QColor(255, 255, 255));
@@ -145,23 +146,25 @@ class ControlsTest : public QObject {
   void yesAndNoReachTheLogic() {
     for (const auto& [button, answer] :
          {std::pair{QMessageBox::Yes, "6"}, {QMessageBox::No, "7"}}) {
-      whenDialogShows([button = button](QWidget* dialog) {
+      const DialogAnswer reply([button = button](QWidget* dialog) {
         qobject_cast<QMessageBox*>(dialog)->button(button)->click();
       });
       QTest::keyClick(program_->window(), Qt::Key_Q, Qt::AltModifier);
+      QVERIFY(reply.answered());
       QCOMPARE(view("Answer")->look().text, answer);
     }
   }
 
   void anInputBoxStandsWhereTheLogicPutsIt() {
     QPoint place;
-    whenDialogShows([&place](QWidget* dialog) {
+    const DialogAnswer reply([&place](QWidget* dialog) {
       auto* box = qobject_cast<QInputDialog*>(dialog);
       place = box->pos();
       box->setTextValue("42");
       box->accept();
     });
     QTest::keyClick(program_->window(), Qt::Key_A, Qt::AltModifier);
+    QVERIFY(reply.answered());
     QCOMPARE(place, QPoint(kInputBoxLeft / 15, kInputBoxTop / 15));
     QCOMPARE(view("Answer")->look().text, "42");
   }

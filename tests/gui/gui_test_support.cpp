@@ -1,8 +1,6 @@
 #include "gui_test_support.h"
 
 #include <QApplication>
-#include <QTimer>
-#include <memory>
 
 #include "shell/program.h"
 
@@ -11,14 +9,6 @@ namespace veridraw::gui::testing {
 namespace {
 
 constexpr int kPollMilliseconds = 10;
-constexpr int kPollsBeforeGivingUp = 500;
-
-void pollForDialog(const std::shared_ptr<std::function<void(QWidget*)>>& handle, int pollsLeft) {
-  QTimer::singleShot(kPollMilliseconds, [handle, pollsLeft] {
-    if (QWidget* dialog = QApplication::activeModalWidget()) return (*handle)(dialog);
-    if (pollsLeft > 0) pollForDialog(handle, pollsLeft - 1);
-  });
-}
 
 }  // namespace
 
@@ -42,9 +32,16 @@ int visibleFormWindows() {
   return visible;
 }
 
-void whenDialogShows(std::function<void(QWidget* dialog)> handle) {
-  pollForDialog(std::make_shared<std::function<void(QWidget*)>>(std::move(handle)),
-                kPollsBeforeGivingUp);
+DialogAnswer::DialogAnswer(std::function<void(QWidget* dialog)> handle)
+    : handle_(std::move(handle)) {
+  QObject::connect(&timer_, &QTimer::timeout, [this] {
+    QWidget* dialog = QApplication::activeModalWidget();
+    if (dialog == nullptr) return;
+    timer_.stop();
+    answered_ = true;
+    handle_(dialog);
+  });
+  timer_.start(kPollMilliseconds);
 }
 
 QPoint middleOf(const QWidget& view) {

@@ -5,6 +5,7 @@
 
 #include <QPoint>
 #include <QTemporaryDir>
+#include <QTimer>
 #include <QWidget>
 #include <functional>
 #include <string_view>
@@ -42,8 +43,21 @@ class ProgramOnDesktop {
 // The top-level windows of forms that are visible now.
 int visibleFormWindows();
 
-// Once a modal dialog stands, calls `handle` with it; `handle` must close it.
-void whenDialogShows(std::function<void(QWidget* dialog)> handle);
+// Waits, from its making to its end, for a modal dialog to stand, and then
+// calls `handle` with it; `handle` must close it.
+class DialogAnswer {
+ public:
+  explicit DialogAnswer(std::function<void(QWidget* dialog)> handle);
+  DialogAnswer(const DialogAnswer&) = delete;
+  DialogAnswer& operator=(const DialogAnswer&) = delete;
+
+  bool answered() const { return answered_; }
+
+ private:
+  QTimer timer_;
+  std::function<void(QWidget*)> handle_;
+  bool answered_ = false;
+};
 
 // The point of a view, in its own coordinates, that a click should hit.
 QPoint middleOf(const QWidget& view);
