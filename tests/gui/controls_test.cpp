@@ -146,12 +146,12 @@ class ControlsTest : public QObject {
   void yesAndNoReachTheLogic() {
     for (const auto& [button, answer] :
          {std::pair{QMessageBox::Yes, "6"}, {QMessageBox::No, "7"}}) {
-      const DialogAnswer reply([button = button](QWidget* dialog) {
-        qobject_cast<QMessageBox*>(dialog)->button(button)->click();
-      });
+      MessageBoxSeen seen;
+      const DialogAnswer reply = answerMessageBox(button, seen);
       QTest::keyClick(program_->window(), Qt::Key_Q, Qt::AltModifier);
       QVERIFY(reply.answered());
       QCOMPARE(view("Answer")->look().text, answer);
+      QCOMPARE(seen.text, "Are these numbers correct?");
     }
   }
 

@@ -15,11 +15,7 @@ using namespace veridraw::gui::testing;
 
 namespace {
 
-struct BoxSeen {
-  QString title;
-  QString text;
-  QMessageBox::Icon icon = QMessageBox::NoIcon;
-  QMessageBox::StandardButtons buttons;
+struct BoxSeen : MessageBoxSeen {
   bool answered = false;
 };
 
@@ -27,11 +23,7 @@ struct BoxSeen {
 BoxSeen showAndAnswer(DesktopDialogs& dialogs, int buttons, QMessageBox::StandardButton answer,
                       int& result) {
   BoxSeen seen;
-  const DialogAnswer reply([&seen, answer](QWidget* dialog) {
-    auto* box = qobject_cast<QMessageBox*>(dialog);
-    seen = {box->windowTitle(), box->text(), box->icon(), box->standardButtons(), false};
-    box->button(answer)->click();
-  });
+  const DialogAnswer reply = answerMessageBox(answer, seen);
   result = dialogs.MsgBox("Are these numbers correct?\r\nDraw 1105", buttons, "Veridraw");
   seen.answered = reply.answered();
   return seen;

@@ -14,23 +14,7 @@ using namespace veridraw::gui::testing;
 
 namespace {
 
-struct ErrorBoxSeen {
-  QString title;
-  QString text;
-  QMessageBox::Icon icon = QMessageBox::NoIcon;
-  QMessageBox::StandardButtons buttons;
-};
-
-// Notes what the error box shows, and presses its OK.
-DialogAnswer noteErrorBox(ErrorBoxSeen& seen) {
-  return DialogAnswer([&seen](QWidget* dialog) {
-    auto* box = qobject_cast<QMessageBox*>(dialog);
-    seen = {box->windowTitle(), box->text(), box->icon(), box->standardButtons()};
-    box->button(QMessageBox::Ok)->click();
-  });
-}
-
-void checkFileNotFound(const ErrorBoxSeen& seen) {
+void checkFileNotFound(const MessageBoxSeen& seen) {
   QCOMPARE(seen.title, "Veridraw");
   QCOMPARE(seen.text, "Run-time error '53':\n\nFile not found");
   QCOMPARE(seen.icon, QMessageBox::Critical);
@@ -50,8 +34,8 @@ class FatalErrorTest : public QObject {
     program.start(kBroken);
     QCOMPARE(visibleFormWindows(), 1);
 
-    ErrorBoxSeen seen;
-    const DialogAnswer reply = noteErrorBox(seen);
+    MessageBoxSeen seen;
+    const DialogAnswer reply = answerMessageBox(QMessageBox::Ok, seen);
     QTest::keyClick(program.window(), Qt::Key_Return);
     QVERIFY(reply.answered());
     checkFileNotFound(seen);
@@ -64,8 +48,8 @@ class FatalErrorTest : public QObject {
 
   void anErrorInTheFirstLoadIsReportedWithoutAWindow() {
     ProgramOnDesktop program(addBrokenForms);
-    ErrorBoxSeen seen;
-    const DialogAnswer reply = noteErrorBox(seen);
+    MessageBoxSeen seen;
+    const DialogAnswer reply = answerMessageBox(QMessageBox::Ok, seen);
     program.start(kBrokenAtLoad);
     QVERIFY(reply.answered());
     checkFileNotFound(seen);

@@ -1,5 +1,6 @@
 #include "gui_test_support.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 
 #include "shell/program.h"
@@ -42,6 +43,14 @@ DialogAnswer::DialogAnswer(std::function<void(QWidget* dialog)> handle)
     handle_(dialog);
   });
   timer_.start(kPollMilliseconds);
+}
+
+DialogAnswer answerMessageBox(QMessageBox::StandardButton button, MessageBoxSeen& seen) {
+  return DialogAnswer([&seen, button](QWidget* dialog) {
+    auto* box = qobject_cast<QMessageBox*>(dialog);
+    seen = {box->windowTitle(), box->text(), box->icon(), box->standardButtons()};
+    box->button(button)->click();
+  });
 }
 
 QPoint middleOf(const QWidget& view) {

@@ -3,6 +3,7 @@
 // that the program is about to show.
 #pragma once
 
+#include <QMessageBox>
 #include <QPoint>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -58,6 +59,17 @@ class DialogAnswer {
   std::function<void(QWidget*)> handle_;
   bool answered_ = false;
 };
+
+// What a message box showed.
+struct MessageBoxSeen {
+  QString title;
+  QString text;
+  QMessageBox::Icon icon = QMessageBox::NoIcon;
+  QMessageBox::StandardButtons buttons;
+};
+
+// Waits for a message box, notes in `seen` what it shows, and presses `button`.
+DialogAnswer answerMessageBox(QMessageBox::StandardButton button, MessageBoxSeen& seen);
 
 // The point of a view, in its own coordinates, that a click should hit.
 QPoint middleOf(const QWidget& view);

@@ -29,14 +29,15 @@ FormDesign samplerDesign() {
   return form;
 }
 
+// A small form with one button.
+FormDesign oneButtonDesign(const char* form, const char* name, const char* caption) {
+  return {form, 3000, 2000, colors::kButtonFace, {button(name, {600, 600, 1200, 375}, caption)}};
+}
+
 class OtherForm : public Form {
  public:
   explicit OtherForm(Application& application)
-      : Form(application, {kOther,
-                           3000,
-                           2000,
-                           colors::kButtonFace,
-                           {button("CmdBack", {600, 600, 1200, 375}, "&Back")}}) {
+      : Form(application, oneButtonDesign(kOther, "CmdBack", "&Back")) {
     on("CmdBack", Event::Click, [this] {
       Show(kSampler);
       Unload();
@@ -47,11 +48,7 @@ class OtherForm : public Form {
 class BrokenForm : public Form {
  public:
   explicit BrokenForm(Application& application)
-      : Form(application, {kBroken,
-                           3000,
-                           2000,
-                           colors::kButtonFace,
-                           {button("CmdOpen", {600, 600, 1200, 375}, "&Open")}}) {
+      : Form(application, oneButtonDesign(kBroken, "CmdOpen", "&Open")) {
     on("CmdOpen", Event::Click, [this] { files().Open(kMissingFile, FileMode::Input, 1); });
   }
 };
