@@ -41,6 +41,11 @@ void drawPressed(QPainter& painter, const QRect& area) {
   drawFrame(painter, area.adjusted(1, 1, -1, -1), edges::kShadow, edges::kShadow);
 }
 
+// The width of the border that the model's BorderStyle gives a text or list box.
+int fieldBorder(const ControlLook& look) {
+  return look.borderStyle != 0 ? kBevel : 0;
+}
+
 // The dotted rectangle of the keyboard focus.
 void drawFocusRect(QPainter& painter, const QRect& area) {
   QPen pen(edges::kDarkShadow);
@@ -202,10 +207,6 @@ void paintListBox(QPainter& painter, const QRect& area, const ControlLook& look)
 }
 
 }  // namespace
-
-int fieldBorder(const ControlLook& look) {
-  return look.borderStyle != 0 ? kBevel : 0;
-}
 
 ListRows listRows(const QRect& area, const ControlLook& look) {
   ListRows rows;

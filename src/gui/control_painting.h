@@ -28,7 +28,4 @@ struct ListRows {
 
 ListRows listRows(const QRect& area, const ControlLook& look);
 
-// The width of the border that the model's BorderStyle gives a text or list box.
-int fieldBorder(const ControlLook& look);
-
 }  // namespace veridraw::gui

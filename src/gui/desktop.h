@@ -33,7 +33,6 @@ class Desktop {
   // Scrolling a list moves its TopIndex and runs no event.
   void scroll(Control& list, int topIndex);
 
-  Application& application() const { return application_; }
   // The window on screen, or null.
   FormWindow* window() const;
   bool finished() const { return finished_; }

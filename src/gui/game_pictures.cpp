@@ -56,6 +56,20 @@ void drawArrow(QPainter& painter, const QPointF& from, const QPointF& to, const 
   painter.restore();
 }
 
+// A lightning bolt standing in the box.
+void drawLightning(QPainter& painter, const QRectF& box, const QColor& colour) {
+  const auto at = [&box](qreal x, qreal y) {
+    return QPointF(box.left() + x * box.width(), box.top() + y * box.height());
+  };
+  const QPolygonF bolt({at(0.62, 0.0), at(0.12, 0.56), at(0.46, 0.56), at(0.30, 1.0),
+                        at(0.88, 0.40), at(0.54, 0.40), at(0.78, 0.0)});
+  painter.save();
+  painter.setPen(QPen(colour.darker(180), std::max<qreal>(0.6, box.width() / 20)));
+  painter.setBrush(colour);
+  painter.drawPolygon(bolt);
+  painter.restore();
+}
+
 }  // namespace
 
 void paintLotto(QPainter& painter, const QRectF& area) {
@@ -100,19 +114,6 @@ void paintPowerBall(QPainter& painter, const QRectF& area) {
   const QRectF lower(words.left(), upper.bottom(), words.width(), words.height() * 0.45);
   drawFittedText(painter, upper.adjusted(0, 3, 0, 0), "POWER", Qt::white, true, 40);
   drawFittedText(painter, lower.adjusted(0, 0, 0, -3), "BALL", QColor(255, 220, 0), true, 40);
-}
-
-void drawLightning(QPainter& painter, const QRectF& box, const QColor& colour) {
-  const auto at = [&box](qreal x, qreal y) {
-    return QPointF(box.left() + x * box.width(), box.top() + y * box.height());
-  };
-  const QPolygonF bolt({at(0.62, 0.0), at(0.12, 0.56), at(0.46, 0.56), at(0.30, 1.0),
-                        at(0.88, 0.40), at(0.54, 0.40), at(0.78, 0.0)});
-  painter.save();
-  painter.setPen(QPen(colour.darker(180), std::max<qreal>(0.6, box.width() / 20)));
-  painter.setBrush(colour);
-  painter.drawPolygon(bolt);
-  painter.restore();
 }
 
 }  // namespace veridraw::gui

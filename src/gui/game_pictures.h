@@ -12,7 +12,4 @@ void paintLotto(QPainter& painter, const QRectF& area);
 void paintStrike(QPainter& painter, const QRectF& area);
 void paintPowerBall(QPainter& painter, const QRectF& area);
 
-// A lightning bolt standing in the box.
-void drawLightning(QPainter& painter, const QRectF& box, const QColor& colour);
-
 }  // namespace veridraw::gui

@@ -64,8 +64,10 @@ KeyInput translateKey(const QKeyEvent& event) {
     if (isLetterOrDigit(event.key())) return AccessKey{static_cast<char>(event.key())};
     return {};
   }
-  if (control || alt) return {};
-  if (const std::optional<Key> key = modelKey(event.key(), modifiers)) return *key;
+  // AltGr comes as Ctrl and Alt on some desktops: what it types is typed.
+  const bool altGr = control && alt;
+  if (control && !altGr) return {};
+  if (const std::optional<Key> key = modelKey(event.key(), modifiers); key && !altGr) return *key;
   if (printable(event.text())) return TypedText{toWindows1252(event.text())};
   return {};
 }

@@ -19,6 +19,19 @@ bool darkColour(const QColor& colour) {
   return colour.lightness() < 150;
 }
 
+// The largest bold or plain font, up to `maxPixels`, in which the text fits the box.
+QFont fittedFont(const QString& text, const QSizeF& box, bool bold, int maxPixels) {
+  QFont font = modelFont(8.25, bold);
+  for (int pixels = std::max(kSmallestPixels, maxPixels); pixels >= kSmallestPixels; --pixels) {
+    font.setPixelSize(pixels);
+    const QFontMetricsF metrics(font);
+    if (metrics.horizontalAdvance(text) <= box.width() && metrics.capHeight() <= box.height())
+      return font;
+  }
+  font.setPixelSize(kSmallestPixels);
+  return font;
+}
+
 }  // namespace
 
 void drawBall(QPainter& painter, const QPointF& centre, qreal radius, const QColor& colour,
@@ -38,18 +51,6 @@ void drawBall(QPainter& painter, const QPointF& centre, qreal radius, const QCol
                    static_cast<int>(radius * 1.15));
   }
   painter.restore();
-}
-
-QFont fittedFont(const QString& text, const QSizeF& box, bool bold, int maxPixels) {
-  QFont font = modelFont(8.25, bold);
-  for (int pixels = std::max(kSmallestPixels, maxPixels); pixels >= kSmallestPixels; --pixels) {
-    font.setPixelSize(pixels);
-    const QFontMetricsF metrics(font);
-    if (metrics.horizontalAdvance(text) <= box.width() && metrics.capHeight() <= box.height())
-      return font;
-  }
-  font.setPixelSize(kSmallestPixels);
-  return font;
 }
 
 void drawFittedText(QPainter& painter, const QRectF& box, const QString& text, const QColor& colour,

@@ -66,6 +66,12 @@ class KeyInputTest : public QObject {
                                << "\r" << KeyInput();
     QTest::newRow("Ctrl+C") << int(Qt::Key_C) << Qt::KeyboardModifiers(Qt::ControlModifier)
                             << "\x03" << KeyInput();
+    QTest::newRow("AltGr+E") << int(Qt::Key_E)
+                             << Qt::KeyboardModifiers(Qt::ControlModifier | Qt::AltModifier)
+                             << "\u20AC" << KeyInput(TypedText{"\x80"});
+    QTest::newRow("Ctrl+Alt+Delete")
+        << int(Qt::Key_Delete) << Qt::KeyboardModifiers(Qt::ControlModifier | Qt::AltModifier) << ""
+        << KeyInput();
     QTest::newRow("F1") << int(Qt::Key_F1) << none << "" << KeyInput();
     QTest::newRow("Shift alone") << int(Qt::Key_Shift) << none << "" << KeyInput();
   }
