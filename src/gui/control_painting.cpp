@@ -47,8 +47,9 @@ int fieldBorder(const ControlLook& look) {
 }
 
 // The dotted rectangle of the keyboard focus.
-void drawFocusRect(QPainter& painter, const QRect& area) {
-  QPen pen(edges::kDarkShadow);
+void drawFocusRect(QPainter& painter, const QRect& area,
+                   const QColor& colour = edges::kDarkShadow) {
+  QPen pen(colour);
   pen.setDashPattern({1, 1});
   painter.setPen(pen);
   painter.setBrush(Qt::NoBrush);
@@ -201,7 +202,8 @@ void paintListBox(QPainter& painter, const QRect& area, const ControlLook& look)
     painter.setPen(selected ? edges::kHighlight : look.foreground);
     painter.drawText(row.adjusted(kTextMargin, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter,
                      look.items[item]);
-    if (look.focused && item == std::max(0, look.listIndex)) drawFocusRect(painter, row);
+    if (look.focused && item == std::max(0, look.listIndex))
+      drawFocusRect(painter, row, selected ? edges::kHighlight : edges::kDarkShadow);
   }
   painter.restore();
 }

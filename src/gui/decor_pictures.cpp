@@ -117,7 +117,8 @@ void paintMoney(QPainter& painter, const QRectF& area) {
 
 void paintPlainPanel(QPainter& painter, const QRectF& area) {
   fillPanel(painter, area, QColor(236, 236, 230), QColor(206, 206, 198));
-  const qreal radius = std::min(area.height(), area.width() / 4) * 0.22;
+  // Three balls side by side, as large as the panel allows.
+  const qreal radius = std::min(area.height() * 0.3, area.width() / 8);
   const QPointF centre = area.center();
   drawBall(painter, centre - QPointF(radius * 1.7, 0), radius, QColor(210, 30, 30), {});
   drawBall(painter, centre, radius, QColor(242, 190, 0), {});

@@ -1,5 +1,6 @@
-// Renders the start and readme screens of the real program to PNG files in
-// the test's directory, screens/, for the README and for a look by eye.
+// Renders the start and readme screens of the real program, and a test form
+// with a control of every kind, to PNG files in the test's directory,
+// screens/, for the README and for a look by eye.
 #include <QDir>
 #include <QImage>
 #include <QSet>
@@ -8,6 +9,7 @@
 #include "gui/classic_style.h"
 #include "gui_test_support.h"
 #include "shell/program.h"
+#include "test_forms.h"
 
 using namespace veridraw;
 using namespace veridraw::gui;
@@ -28,6 +30,18 @@ class ScreenshotTest : public QObject {
     saveAndCheck(*program.window(), "screens/start.png");
   }
 
+  void everyKindOfControl() {
+    ProgramOnDesktop program(addSamplerForms);
+    program.start(kSampler);
+    QTest::keyClicks(program.window(), "12");
+    ControlView& draws = *program.view("Draws");
+    QTest::mouseClick(&draws, Qt::LeftButton, {}, QPoint(10, 30));
+    QTest::keyClick(program.window(), Qt::Key_M, Qt::AltModifier);
+    ControlView& entry = *program.view("Entry");
+    QTest::mouseClick(&entry, Qt::LeftButton, {}, middleOf(entry));
+    saveAndCheck(*program.window(), "screens/controls.png", QSize(400, 300));
+  }
+
   void readmeScreenWithDisclaimer() {
     ProgramOnDesktop program;
     program.start(kFirstForm);
@@ -38,9 +52,10 @@ class ScreenshotTest : public QObject {
   }
 
  private:
-  static void saveAndCheck(QWidget& window, const QString& file) {
+  static void saveAndCheck(QWidget& window, const QString& file,
+                           const QSize& size = QSize(794, 575)) {
     const QImage image = window.grab().toImage();
-    QCOMPARE(image.size(), QSize(794, 575));
+    QCOMPARE(image.size(), size);
     QVERIFY(image.save(file));
     // A screen with its pictures and captions drawn has many colours.
     QSet<QRgb> colours;

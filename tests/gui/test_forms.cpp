@@ -15,8 +15,8 @@ FormDesign samplerDesign() {
   form.controls = {
     textBox("Entry", {600, 600, 1500, 300}).tab(0),
     listBox("Draws", {600, 1200, 1500, 1215}).tab(1),
-    label("Prompt", {2400, 600, 2400, 255}, "Line A -- Enter").back(colors::kNavy).fore(colors::kWhite),
-    label("Answer", {2400, 1000, 2400, 255}, ""),
+    label("Prompt", {2400, 600, 1300, 255}, "Line A -- Enter").back(colors::kNavy).fore(colors::kWhite),
+    label("Answer", {3800, 600, 1800, 255}, ""),
     button("CmdMove", {2400, 1500, 1200, 375}, "&Move"),
     button("CmdWarn", {2400, 2000, 1200, 375}, "&Warn"),
     button("CmdAsk", {2400, 2500, 1200, 375}, "&Ask"),
