@@ -112,15 +112,9 @@ class DrawScreenTest : public QObject {
     // Typed in order: no sorted row, only the question.
     expectShown("LblNumericOrder", false);
     expectCellsShown("TxtDrawnNumeric", 6, false);
-    expectShown("LblCorrectNumbers", true);
-    QCOMPARE(program_->view("LblCorrectNumbers")->look().text, "Are these numbers correct?");
-    expectShown("BtnYes", true);
-    expectShown("BtnNo", true);
-    expectFocus("BtnYes");
+    expectQuestion("BtnYes", "BtnNo", 5520);
 
-    QTest::keyClick(program_->window(), Qt::Key_Return);
-    QCOMPARE(program_->fileContent("DrawNumber"), "12\r\n");
-    QCOMPARE(program_->fileContent("12"), "12\r\nX0102030405060708\r\n\r\n");
+    confirm("12", "12\r\nX0102030405060708\r\n\r\n");
     expectCellsShown("TxtDrawnNumbers", 8, false);
     expectShown("LblCorrectNumbers", false);
     expectShown("BtnYes", false);
@@ -139,8 +133,7 @@ class DrawScreenTest : public QObject {
     expectCells("TxtDrawnNumbers", {"40 ", "02 ", "03 ", "04 ", "05 ", "06 ", "07 ", "08 "});
     expectFocus("BtnYes");
 
-    QTest::keyClick(program_->window(), Qt::Key_Return);
-    QCOMPARE(program_->fileContent("1200"), "1200\r\nX0203040506400708\r\n\r\n");
+    confirm("1200", "1200\r\nX0203040506400708\r\n\r\n");
     expectShown("LblNumericOrder", false);
     expectCellsShown("TxtDrawnNumeric", 6, false);
     expectCells("TxtDrawnNumbers2", {"02", "03", "04", "05", "06", "40", "07", "08"});
@@ -182,8 +175,7 @@ class DrawScreenTest : public QObject {
   void strikeNumbersJoinTheLottoLineInTheSameFile() {
     askForDraw(Qt::Key_Return, {}, "1200");
     type("0102030405060708");
-    QTest::keyClick(program_->window(), Qt::Key_Return);
-    QCOMPARE(program_->fileContent("1200"), "1200\r\nX0102030405060708\r\n\r\n");
+    confirm("1200", "1200\r\nX0102030405060708\r\n\r\n");
 
     // With the Lotto line in hand, no overwrite question comes.
     const InputBoxSeen asked = askForDraw(Qt::Key_S, Qt::AltModifier, "1200");
@@ -198,16 +190,9 @@ class DrawScreenTest : public QObject {
     expectFocus("TxtStrikeNumbers", 4);
     type("08");
     expectShown("LblDrawnOrder2", false);
-    expectShown("LblCorrectNumbers", true);
-    QCOMPARE(program_->view("LblCorrectNumbers")->look().text, "Are these numbers correct?");
-    QCOMPARE(program_->view("LblCorrectNumbers")->y(), 4800 / 15);
-    expectShown("BtnYes2", true);
-    expectShown("BtnNo2", true);
-    expectFocus("BtnYes2");
+    expectQuestion("BtnYes2", "BtnNo2", 4800);
 
-    QTest::keyClick(program_->window(), Qt::Key_Return);
-    QCOMPARE(program_->fileContent("DrawNumber"), "1200\r\n");
-    QCOMPARE(program_->fileContent("1200"), "1200\r\nX0102030405060708\r\nZ17033908\r\n");
+    confirm("1200", "1200\r\nX0102030405060708\r\nZ17033908\r\n");
     expectCellsShown("TxtStrikeNumbers", 4, false);
     expectShown("BtnYes2", false);
     expectCells("TxtStrikeNumbers2", {"17", "03", "39", "08"});
@@ -263,6 +248,25 @@ class DrawScreenTest : public QObject {
       QCOMPARE(view->look().focused, focused);
       if (focused) QVERIFY(showsFocus(*view));
     }
+  }
+
+  // Enter presses the Yes button that has the focus: the draw becomes the
+  // current one, and its file holds `content` byte for byte.
+  void confirm(const std::string& draw, const std::string& content) {
+    QTest::keyClick(program_->window(), Qt::Key_Return);
+    QCOMPARE(program_->fileContent("DrawNumber"), draw + "\r\n");
+    QCOMPARE(program_->fileContent(draw), content);
+  }
+
+  // The question at the end of an entry, its label at `top` twips, and the
+  // focus on its Yes button.
+  void expectQuestion(const char* yes, const char* no, int top) {
+    expectShown("LblCorrectNumbers", true);
+    QCOMPARE(program_->view("LblCorrectNumbers")->look().text, "Are these numbers correct?");
+    QCOMPARE(program_->view("LblCorrectNumbers")->y(), top / 15);
+    expectShown(yes, true);
+    expectShown(no, true);
+    expectFocus(yes);
   }
 
   std::unique_ptr<ProgramOnDesktop> program_;
