@@ -38,10 +38,10 @@ int parseIndex(std::string_view text) {
 
 const std::map<std::string, Key>& keyNames() {
   static const std::map<std::string, Key> names = {
-      {"Enter", Key::Enter},       {"Space", Key::Space},   {"Tab", Key::Tab},
+      {"Enter", Key::Enter},        {"Space", Key::Space},         {"Tab", Key::Tab},
       {"Shift+Tab", Key::ShiftTab}, {"Backspace", Key::Backspace}, {"Delete", Key::Delete},
-      {"Left", Key::Left},         {"Right", Key::Right},   {"Up", Key::Up},
-      {"Down", Key::Down},         {"Home", Key::Home},     {"End", Key::End},
+      {"Left", Key::Left},          {"Right", Key::Right},         {"Up", Key::Up},
+      {"Down", Key::Down},          {"Home", Key::Home},           {"End", Key::End},
       {"Escape", Key::Escape},
   };
   return names;
@@ -49,9 +49,12 @@ const std::map<std::string, Key>& keyNames() {
 
 std::string stateText(const Application& program) {
   switch (program.state()) {
-    case Application::State::NotStarted: return "not started";
-    case Application::State::Running: return "running";
-    case Application::State::Ended: return "ended";
+    case Application::State::NotStarted:
+      return "not started";
+    case Application::State::Running:
+      return "running";
+    case Application::State::Ended:
+      return "ended";
     case Application::State::Fatal:
       return "ended by fatal error " + std::to_string(program.fatalError()->number()) + " (" +
              program.fatalError()->text() + ")";
@@ -64,7 +67,7 @@ std::string stateText(const Application& program) {
 Scenario::Scenario(std::ostream& out, bool verbose)
     : out_(out), verbose_(verbose), directory_(makeTemporaryDirectory()) {
   commands_ = {
-      {"file", &Scenario::writeFile}, {"delete", &Scenario::deleteFile},
+      {"file", &Scenario::writeFile},  {"delete", &Scenario::deleteFile},
       {"deliver", &Scenario::deliver}, {"start", &Scenario::start},
       {"click", &Scenario::click},     {"type", &Scenario::type},
       {"key", &Scenario::key},         {"reply", &Scenario::reply},
@@ -75,7 +78,7 @@ Scenario::Scenario(std::ostream& out, bool verbose)
     dialogs_.onShown([this](const DialogShown& dialog, const Reply& reply) {
       out_ << "  dialog: " << describe(dialog) << " -> "
            << (std::holds_alternative<int>(reply) ? std::to_string(std::get<int>(reply))
-                                                   : quote(std::get<std::string>(reply)))
+                                                  : quote(std::get<std::string>(reply)))
            << "\n";
     });
   }
@@ -141,7 +144,8 @@ void Scenario::start(const Words& words) {
 }
 
 Application& Scenario::runningProgram(const char* action) const {
-  if (!program_) throw ScenarioFailure(std::string("can't ") + action + ": the program hasn't started");
+  if (!program_)
+    throw ScenarioFailure(std::string("can't ") + action + ": the program hasn't started");
   if (!program_->running())
     throw ScenarioFailure(std::string("can't ") + action + ": the program has " +
                           stateText(*program_));
@@ -173,7 +177,8 @@ Scenario::Target Scenario::parseTarget(std::string_view text) {
   const std::size_t range = inside.find("..");
   target.indexed = true;
   target.first = parseIndex(inside.substr(0, range));
-  target.last = range == std::string_view::npos ? target.first : parseIndex(inside.substr(range + 2));
+  target.last =
+      range == std::string_view::npos ? target.first : parseIndex(inside.substr(range + 2));
   if (target.last < target.first) throw ScenarioFailure("empty range in " + std::string(text));
   return target;
 }
@@ -226,7 +231,8 @@ Control& Scenario::userTarget(const std::string& text, const char* action) const
   runningProgram(action);
   Control& control = resolveOne(text);
   if (&control.form() != program_->activeForm())
-    throw ScenarioFailure(std::string("can't ") + action + " " + text + ": its form isn't on screen");
+    throw ScenarioFailure(std::string("can't ") + action + " " + text +
+                          ": its form isn't on screen");
   if (!control.visible())
     throw ScenarioFailure(std::string("can't ") + action + " " + text + ": it is hidden");
   return control;
@@ -274,7 +280,8 @@ void Scenario::key(const Words& words) {
   }
   const auto known = keyNames().find(name);
   if (known == keyNames().end()) throw ScenarioFailure("unknown key: " + name);
-  if (program_->focus() == nullptr) throw ScenarioFailure("can't press " + name + ": no control has the focus");
+  if (program_->focus() == nullptr)
+    throw ScenarioFailure("can't press " + name + ": no control has the focus");
   program_->pressKey(known->second);
   afterAction();
 }
@@ -286,7 +293,8 @@ void Scenario::reply(const Words& words) {
     return;
   }
   const Value value = parseValue(words[1]);
-  if (!std::holds_alternative<double>(value)) throw ScenarioFailure("reply wants a number or a string");
+  if (!std::holds_alternative<double>(value))
+    throw ScenarioFailure("reply wants a number or a string");
   dialogs_.queue(static_cast<int>(std::get<double>(value)));
 }
 
@@ -320,13 +328,17 @@ void Scenario::expect(const Words& words) {
   } else if (what == "items") {
     if (words.size() < 3) throw ScenarioFailure("usage: expect items TARGET \"A\" ...");
     Control& list = resolveOne(words[2].text);
-    if (list.kind() != ControlKind::ListBox) throw ScenarioFailure(words[2].text + " isn't a list box");
+    if (list.kind() != ControlKind::ListBox)
+      throw ScenarioFailure(words[2].text + " isn't a list box");
     std::vector<std::string> wanted;
-    for (std::size_t i = 3; i < words.size(); ++i) wanted.push_back(words[i].text);
+    for (std::size_t i = 3; i < words.size(); ++i)
+      wanted.push_back(words[i].text);
     if (wanted != list.items()) {
       std::string expected, found;
-      for (const auto& item : wanted) expected += " " + quote(item);
-      for (const auto& item : list.items()) found += " " + quote(item);
+      for (const auto& item : wanted)
+        expected += " " + quote(item);
+      for (const auto& item : list.items())
+        found += " " + quote(item);
       throw ScenarioFailure("expected items" + (expected.empty() ? " (none)" : expected) +
                             ", found" + (found.empty() ? " (none)" : found));
     }
@@ -361,7 +373,8 @@ void Scenario::expect(const Words& words) {
     const int wanted = parseIndex(words[2].text);
     if (!program_ || program_->state() != Application::State::Fatal ||
         program_->fatalError()->number() != wanted)
-      throw ScenarioFailure("expected fatal error " + std::to_string(wanted) + ", found the program " +
+      throw ScenarioFailure("expected fatal error " + std::to_string(wanted) +
+                            ", found the program " +
                             (program_ ? stateText(*program_) : "not started"));
   } else {
     expectProperty(words);
@@ -399,8 +412,7 @@ void Scenario::expectProperty(const Words& words) {
   const Value wanted = parseValue(words[2]);
   for (Control* control : resolve(parseTarget(text.substr(0, dot)))) {
     const std::optional<Value> found = readProperty(*control, property);
-    if (!found)
-      throw ScenarioFailure(control->displayName() + " has no property " + property);
+    if (!found) throw ScenarioFailure(control->displayName() + " has no property " + property);
     if (!sameValue(wanted, *found)) {
       const bool colour = isColourProperty(property);
       throw ScenarioFailure("expected " + control->displayName() + "." + property + " " +
@@ -433,9 +445,11 @@ void Scenario::print(const Words& words) {
   } else if (what == "items") {
     expectWords(words, 3, "print items TARGET");
     Control& list = resolveOne(words[2].text);
-    if (list.kind() != ControlKind::ListBox) throw ScenarioFailure(words[2].text + " isn't a list box");
+    if (list.kind() != ControlKind::ListBox)
+      throw ScenarioFailure(words[2].text + " isn't a list box");
     out_ << "items " << words[2].text;
-    for (const auto& item : list.items()) out_ << " " << quote(item);
+    for (const auto& item : list.items())
+      out_ << " " << quote(item);
     out_ << "\n";
   } else if (what == "file") {
     expectWords(words, 3, "print file NAME");

@@ -40,8 +40,7 @@ int ScriptedDialogs::MsgBox(const std::string& prompt, int buttons, const std::s
 
 std::string ScriptedDialogs::InputBox(const std::string& prompt, const std::string& title,
                                       const std::string& defaultText, int xpos, int ypos) {
-  return std::get<std::string>(
-      answer(InputBoxShown{prompt, title, defaultText, xpos, ypos}, true));
+  return std::get<std::string>(answer(InputBoxShown{prompt, title, defaultText, xpos, ypos}, true));
 }
 
 }  // namespace veridraw::script

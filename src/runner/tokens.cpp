@@ -13,7 +13,9 @@ int hexValue(char c) {
   return -1;
 }
 
-bool isBlank(char c) { return c == ' ' || c == '\t' || c == '\r'; }
+bool isBlank(char c) {
+  return c == ' ' || c == '\t' || c == '\r';
+}
 
 }  // namespace
 
@@ -27,7 +29,8 @@ std::vector<Token> tokenize(std::string_view line) {
     }
     Token token;
     if (line[pos] != '"') {
-      while (pos < line.size() && !isBlank(line[pos])) token.text += line[pos++];
+      while (pos < line.size() && !isBlank(line[pos]))
+        token.text += line[pos++];
       tokens.push_back(token);
       continue;
     }
@@ -44,11 +47,21 @@ std::vector<Token> tokenize(std::string_view line) {
       if (pos >= line.size()) throw ScenarioFailure("a string ends in a lone backslash");
       const char escape = line[pos++];
       switch (escape) {
-        case '"': token.text += '"'; break;
-        case '\\': token.text += '\\'; break;
-        case 'r': token.text += '\r'; break;
-        case 'n': token.text += '\n'; break;
-        case 't': token.text += '\t'; break;
+        case '"':
+          token.text += '"';
+          break;
+        case '\\':
+          token.text += '\\';
+          break;
+        case 'r':
+          token.text += '\r';
+          break;
+        case 'n':
+          token.text += '\n';
+          break;
+        case 't':
+          token.text += '\t';
+          break;
         case 'x': {
           const int high = pos < line.size() ? hexValue(line[pos]) : -1;
           const int low = pos + 1 < line.size() ? hexValue(line[pos + 1]) : -1;
@@ -57,7 +70,8 @@ std::vector<Token> tokenize(std::string_view line) {
           pos += 2;
           break;
         }
-        default: throw ScenarioFailure(std::string("unknown escape \\") + escape);
+        default:
+          throw ScenarioFailure(std::string("unknown escape \\") + escape);
       }
     }
     if (pos < line.size() && !isBlank(line[pos]))
@@ -72,11 +86,21 @@ std::string quote(std::string_view bytes) {
   for (const char c : bytes) {
     const auto byte = static_cast<unsigned char>(c);
     switch (c) {
-      case '"': result += "\\\""; break;
-      case '\\': result += "\\\\"; break;
-      case '\r': result += "\\r"; break;
-      case '\n': result += "\\n"; break;
-      case '\t': result += "\\t"; break;
+      case '"':
+        result += "\\\"";
+        break;
+      case '\\':
+        result += "\\\\";
+        break;
+      case '\r':
+        result += "\\r";
+        break;
+      case '\n':
+        result += "\\n";
+        break;
+      case '\t':
+        result += "\\t";
+        break;
       default:
         if (byte < 0x20 || byte >= 0x7F) {
           char hex[5];

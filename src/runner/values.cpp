@@ -24,7 +24,9 @@ struct PropertyReader {
   std::function<Value(const Control&)> read;
 };
 
-Value number(double value) { return value; }
+Value number(double value) {
+  return value;
+}
 
 const std::map<std::string, PropertyReader>& propertyTable() {
   static const std::map<std::string, PropertyReader> table = {
@@ -37,11 +39,14 @@ const std::map<std::string, PropertyReader>& propertyTable() {
        {Kinds{kText, kLabel, kButton, kList, kImage, kDocument},
         [](const Control& c) { return Value(c.enabled()); }}},
       {"Locked", {Kinds{kText}, [](const Control& c) { return Value(c.locked()); }}},
-      {"TabStop", {Kinds{kText, kButton, kList}, [](const Control& c) { return Value(c.tabStop()); }}},
+      {"TabStop",
+       {Kinds{kText, kButton, kList}, [](const Control& c) { return Value(c.tabStop()); }}},
       {"TabIndex",
-       {Kinds{kText, kLabel, kButton, kList}, [](const Control& c) { return number(c.tabIndex()); }}},
+       {Kinds{kText, kLabel, kButton, kList},
+        [](const Control& c) { return number(c.tabIndex()); }}},
       {"BackColor",
-       {Kinds{kText, kLabel, kButton, kList}, [](const Control& c) { return number(c.backColor()); }}},
+       {Kinds{kText, kLabel, kButton, kList},
+        [](const Control& c) { return number(c.backColor()); }}},
       {"ForeColor",
        {Kinds{kText, kLabel, kList}, [](const Control& c) { return number(c.foreColor()); }}},
       {"Left",
@@ -57,9 +62,11 @@ const std::map<std::string, PropertyReader>& propertyTable() {
        {Kinds{kText, kLabel, kButton, kList, kImage, kDocument},
         [](const Control& c) { return number(c.height()); }}},
       {"FontSize",
-       {Kinds{kText, kLabel, kButton, kList}, [](const Control& c) { return number(c.fontSize()); }}},
+       {Kinds{kText, kLabel, kButton, kList},
+        [](const Control& c) { return number(c.fontSize()); }}},
       {"FontBold",
-       {Kinds{kText, kLabel, kButton, kList}, [](const Control& c) { return Value(c.fontBold()); }}},
+       {Kinds{kText, kLabel, kButton, kList},
+        [](const Control& c) { return Value(c.fontBold()); }}},
       {"BorderStyle",
        {Kinds{kText, kLabel, kImage, kDocument, kList},
         [](const Control& c) { return number(c.borderStyle()); }}},
@@ -118,7 +125,8 @@ std::string formatValue(const Value& value, bool asColour) {
 
 bool sameValue(const Value& expected, const Value& found) {
   if (const auto* foundText = std::get_if<std::string>(&found)) {
-    if (const auto* number = std::get_if<double>(&expected)) return formatValue(*number) == *foundText;
+    if (const auto* number = std::get_if<double>(&expected))
+      return formatValue(*number) == *foundText;
   }
   return expected == found;
 }

@@ -68,7 +68,9 @@ void Application::unload(Form& form) {
   }
 }
 
-void Application::end() { throw ProgramEnd{}; }
+void Application::end() {
+  throw ProgramEnd{};
+}
 
 int Application::MsgBox(const std::string& prompt, int buttons, const std::string& title) {
   return dialogs_.MsgBox(prompt, buttons, title);
@@ -79,7 +81,9 @@ std::string Application::InputBox(const std::string& prompt, const std::string& 
   return dialogs_.InputBox(prompt, title, defaultText, xpos, ypos);
 }
 
-Control* Application::focus() const { return active_ != nullptr ? active_->focus() : nullptr; }
+Control* Application::focus() const {
+  return active_ != nullptr ? active_->focus() : nullptr;
+}
 
 void Application::setFocus(Control& control) {
   if (!control.canTakeFocus()) raiseFatal(ErrorNumber::InvalidProcedureCall);
@@ -146,14 +150,29 @@ void Application::selectItem(Control& list, int index) {
 
 void Application::keyOnTextBox(Control& box, Key key) {
   switch (key) {
-    case Key::Space: box.typeCharacter(' '); break;
-    case Key::Backspace: box.backspace(); break;
-    case Key::Delete: box.deleteForward(); break;
-    case Key::Left: box.setCaret(box.caret() - 1); break;
-    case Key::Right: box.setCaret(box.caret() + 1); break;
-    case Key::Home: box.setCaret(0); break;
-    case Key::End: box.setCaret(static_cast<int>(box.text().size())); break;
-    default: break;
+    case Key::Space:
+      box.typeCharacter(' ');
+      break;
+    case Key::Backspace:
+      box.backspace();
+      break;
+    case Key::Delete:
+      box.deleteForward();
+      break;
+    case Key::Left:
+      box.setCaret(box.caret() - 1);
+      break;
+    case Key::Right:
+      box.setCaret(box.caret() + 1);
+      break;
+    case Key::Home:
+      box.setCaret(0);
+      break;
+    case Key::End:
+      box.setCaret(static_cast<int>(box.text().size()));
+      break;
+    default:
+      break;
   }
 }
 
@@ -162,12 +181,21 @@ void Application::keyOnList(Control& list, Key key) {
   int wanted = list.listIndex();
   switch (key) {
     case Key::Up:
-    case Key::Left: wanted = std::max(0, wanted - 1); break;
+    case Key::Left:
+      wanted = std::max(0, wanted - 1);
+      break;
     case Key::Down:
-    case Key::Right: wanted = std::min(last, wanted + 1); break;
-    case Key::Home: wanted = 0; break;
-    case Key::End: wanted = last; break;
-    default: return;
+    case Key::Right:
+      wanted = std::min(last, wanted + 1);
+      break;
+    case Key::Home:
+      wanted = 0;
+      break;
+    case Key::End:
+      wanted = last;
+      break;
+    default:
+      return;
   }
   if (last < 0 || wanted == list.listIndex()) return;
   list.selectItem(wanted);
@@ -185,8 +213,12 @@ void Application::pressKey(Key key) {
     Control* focused = form->focus();
     if (focused == nullptr) return;
     switch (focused->kind()) {
-      case ControlKind::TextBox: keyOnTextBox(*focused, key); break;
-      case ControlKind::ListBox: keyOnList(*focused, key); break;
+      case ControlKind::TextBox:
+        keyOnTextBox(*focused, key);
+        break;
+      case ControlKind::ListBox:
+        keyOnList(*focused, key);
+        break;
       case ControlKind::CommandButton:
         if (key == Key::Enter || key == Key::Space) {
           form->raise(Event::Click, *focused);
@@ -194,7 +226,8 @@ void Application::pressKey(Key key) {
           moveFocus(*form, focused, key == Key::Left || key == Key::Up);
         }
         break;
-      default: break;
+      default:
+        break;
     }
   });
 }

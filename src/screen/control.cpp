@@ -84,9 +84,13 @@ bool Control::canTakeFocus() const {
   return focusable && visible_ && enabled_;
 }
 
-void Control::SetFocus() { form_.application().setFocus(*this); }
+void Control::SetFocus() {
+  form_.application().setFocus(*this);
+}
 
-void Control::AddItem(const std::string& item) { items_.push_back(item); }
+void Control::AddItem(const std::string& item) {
+  items_.push_back(item);
+}
 
 void Control::Clear() {
   items_.clear();
@@ -102,7 +106,9 @@ void Control::selectItem(int index) {
   if (listIndex_ >= topIndex_ + rows) topIndex_ = listIndex_ - rows + 1;
 }
 
-void Control::setTopIndex(int value) { topIndex_ = std::clamp(value, 0, std::max(0, listCount() - 1)); }
+void Control::setTopIndex(int value) {
+  topIndex_ = std::clamp(value, 0, std::max(0, listCount() - 1));
+}
 
 void Control::setCaret(int position) {
   caret_ = std::clamp(position, 0, static_cast<int>(text_.size()));

@@ -37,8 +37,8 @@ struct ControlDesign {
   int top = 0;
   int width = 0;
   int height = 0;
-  std::string text;     // Text of a text box, Caption of a label or a button
-  std::string toolTip;  // ToolTipText
+  std::string text;                   // Text of a text box, Caption of a label or a button
+  std::string toolTip;                // ToolTipText
   std::int32_t backColor = kDefault;  // kDefault: the kind's own colour
   std::int32_t foreColor = colors::kBlack;
   double fontSize = 8.25;
@@ -47,7 +47,7 @@ struct ControlDesign {
   bool enabled = true;
   bool locked = false;
   bool tabStop = true;
-  int tabIndex = kDefault;  // kDefault: after the explicit ones, in table order
+  int tabIndex = kDefault;     // kDefault: after the explicit ones, in table order
   int borderStyle = kDefault;  // kDefault: 1 for text boxes, 0 for the rest
   Alignment alignment = Alignment::Left;
   std::string picture;  // the name of the drawing on an image or a picture button
@@ -68,7 +68,9 @@ struct ControlDesign {
   ControlDesign&& tab(int value) && { return tabIndex = value, std::move(*this); }
   ControlDesign&& border(int value) && { return borderStyle = value, std::move(*this); }
   ControlDesign&& centred() && { return alignment = Alignment::Center, std::move(*this); }
-  ControlDesign&& drawing(std::string value) && { return picture = std::move(value), std::move(*this); }
+  ControlDesign&& drawing(std::string value) && {
+    return picture = std::move(value), std::move(*this);
+  }
 };
 
 // A place on the form in twips: left, top, width, height.

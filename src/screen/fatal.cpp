@@ -9,19 +9,32 @@ FatalError::FatalError(int number, std::string text)
 
 std::string errorText(int number) {
   switch (number) {
-    case 5: return "Invalid procedure call or argument";
-    case 6: return "Overflow";
-    case 9: return "Subscript out of range";
-    case 13: return "Type mismatch";
-    case 28: return "Out of stack space";
-    case 52: return "Bad file name or number";
-    case 53: return "File not found";
-    case 55: return "File already open";
-    case 62: return "Input past end of file";
-    case 70: return "Permission denied";
-    case 75: return "Path/File access error";
-    case 76: return "Path not found";
-    default: return "Application-defined or object-defined error";
+    case 5:
+      return "Invalid procedure call or argument";
+    case 6:
+      return "Overflow";
+    case 9:
+      return "Subscript out of range";
+    case 13:
+      return "Type mismatch";
+    case 28:
+      return "Out of stack space";
+    case 52:
+      return "Bad file name or number";
+    case 53:
+      return "File not found";
+    case 55:
+      return "File already open";
+    case 62:
+      return "Input past end of file";
+    case 70:
+      return "Permission denied";
+    case 75:
+      return "Path/File access error";
+    case 76:
+      return "Path not found";
+    default:
+      return "Application-defined or object-defined error";
   }
 }
 

@@ -16,23 +16,28 @@ namespace {
 
 // Characters that no file name of the platform may hold.
 bool isForbiddenInName(unsigned char c) {
-  return c < 32 || c == '<' || c == '>' || c == ':' || c == '"' || c == '|' || c == '?' ||
-         c == '*';
+  return c < 32 || c == '<' || c == '>' || c == ':' || c == '"' || c == '|' || c == '?' || c == '*';
 }
 
 [[noreturn]] void raiseForErrno(int error) {
   switch (error) {
     case ENOENT:
-    case ENOTDIR: raiseFatal(ErrorNumber::PathNotFound);
+    case ENOTDIR:
+      raiseFatal(ErrorNumber::PathNotFound);
     case EACCES:
     case EPERM:
-    case EROFS: raiseFatal(ErrorNumber::PermissionDenied);
-    case ENAMETOOLONG: raiseFatal(ErrorNumber::BadFileNameOrNumber);
-    default: raiseFatal(ErrorNumber::PathFileAccessError);
+    case EROFS:
+      raiseFatal(ErrorNumber::PermissionDenied);
+    case ENAMETOOLONG:
+      raiseFatal(ErrorNumber::BadFileNameOrNumber);
+    default:
+      raiseFatal(ErrorNumber::PathFileAccessError);
   }
 }
 
-bool isLineEnd(char c) { return c == '\r' || c == '\n'; }
+bool isLineEnd(char c) {
+  return c == '\r' || c == '\n';
+}
 
 }  // namespace
 
@@ -103,20 +108,24 @@ std::string SequentialFiles::readField(OpenFile& file, bool numeric) {
   const std::string& text = file.content;
   std::size_t& pos = file.position;
   if (pos >= text.size()) raiseFatal(ErrorNumber::InputPastEndOfFile);
-  while (pos < text.size() && (text[pos] == ' ' || text[pos] == '\t')) ++pos;
+  while (pos < text.size() && (text[pos] == ' ' || text[pos] == '\t'))
+    ++pos;
   std::string field;
   if (pos < text.size() && text[pos] == '"') {
     ++pos;
-    while (pos < text.size() && text[pos] != '"') field += text[pos++];
+    while (pos < text.size() && text[pos] != '"')
+      field += text[pos++];
     if (pos < text.size()) ++pos;
     // What follows the closing quote up to the separator is passed over.
-    while (pos < text.size() && text[pos] != ',' && !isLineEnd(text[pos])) ++pos;
+    while (pos < text.size() && text[pos] != ',' && !isLineEnd(text[pos]))
+      ++pos;
   } else {
     while (pos < text.size() && text[pos] != ',' && !isLineEnd(text[pos]) &&
            !(numeric && (text[pos] == ' ' || text[pos] == '\t')))
       field += text[pos++];
     if (numeric)
-      while (pos < text.size() && (text[pos] == ' ' || text[pos] == '\t')) ++pos;
+      while (pos < text.size() && (text[pos] == ' ' || text[pos] == '\t'))
+        ++pos;
   }
   if (pos < text.size()) {
     if (text[pos] == ',') {

@@ -31,7 +31,8 @@ void Form::load() {
   }
   std::stable_sort(order.begin(), order.end(),
                    [](const auto& a, const auto& b) { return a.first < b.first; });
-  for (std::size_t i = 0; i < order.size(); ++i) order[i].second->setTabIndex(static_cast<int>(i));
+  for (std::size_t i = 0; i < order.size(); ++i)
+    order[i].second->setTabIndex(static_cast<int>(i));
 
   loaded_ = true;
   ++generation_;
@@ -39,7 +40,8 @@ void Form::load() {
 }
 
 void Form::destroyControls(std::vector<std::unique_ptr<Control>>& graveyard) {
-  for (auto& control : controls_) graveyard.push_back(std::move(control));
+  for (auto& control : controls_)
+    graveyard.push_back(std::move(control));
   controls_.clear();
   byName_.clear();
   focus_ = nullptr;
@@ -71,7 +73,8 @@ Control& Form::control(std::string_view name, int index) {
 
 std::vector<Control*> Form::tabOrder() const {
   std::vector<Control*> order;
-  for (const auto& control : controls_) order.push_back(control.get());
+  for (const auto& control : controls_)
+    order.push_back(control.get());
   std::sort(order.begin(), order.end(),
             [](Control* a, Control* b) { return a->tabIndex() < b->tabIndex(); });
   return order;
@@ -96,9 +99,15 @@ void Form::raise(Event event, Control& control) {
   application_.runHandler([&handler, index] { handler->second(index); });
 }
 
-void Form::Show(std::string_view formName) { application_.show(application_.form(formName)); }
-void Form::Unload() { application_.unload(*this); }
-void Form::End() { application_.end(); }
+void Form::Show(std::string_view formName) {
+  application_.show(application_.form(formName));
+}
+void Form::Unload() {
+  application_.unload(*this);
+}
+void Form::End() {
+  application_.end();
+}
 
 int Form::MsgBox(const std::string& prompt, int buttons, const std::string& title) {
   return application_.MsgBox(prompt, buttons, title);
@@ -109,6 +118,8 @@ std::string Form::InputBox(const std::string& prompt, const std::string& title,
   return application_.InputBox(prompt, title, defaultText, xpos, ypos);
 }
 
-SequentialFiles& Form::files() { return application_.files(); }
+SequentialFiles& Form::files() {
+  return application_.files();
+}
 
 }  // namespace veridraw

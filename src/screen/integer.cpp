@@ -27,17 +27,39 @@ Integer Integer::fromDouble(double value) {
   return Integer(static_cast<int>(rounded));
 }
 
-Integer& Integer::operator++() { return *this = checked(static_cast<long long>(value_) + 1); }
-Integer& Integer::operator--() { return *this = checked(static_cast<long long>(value_) - 1); }
+Integer& Integer::operator++() {
+  return *this = checked(static_cast<long long>(value_) + 1);
+}
+Integer& Integer::operator--() {
+  return *this = checked(static_cast<long long>(value_) - 1);
+}
 
-Integer operator+(Integer a, Integer b) { return checked(static_cast<long long>(a) + int(b)); }
-Integer operator+(Integer a, int b) { return checked(static_cast<long long>(a) + b); }
-Integer operator+(int a, Integer b) { return checked(static_cast<long long>(a) + int(b)); }
-Integer operator-(Integer a, Integer b) { return checked(static_cast<long long>(a) - int(b)); }
-Integer operator-(Integer a, int b) { return checked(static_cast<long long>(a) - b); }
-Integer operator-(int a, Integer b) { return checked(static_cast<long long>(a) - int(b)); }
-Integer operator*(Integer a, Integer b) { return checked(static_cast<long long>(a) * int(b)); }
-Integer operator*(Integer a, int b) { return checked(static_cast<long long>(a) * b); }
-Integer operator*(int a, Integer b) { return checked(static_cast<long long>(a) * int(b)); }
+Integer operator+(Integer a, Integer b) {
+  return checked(static_cast<long long>(a) + int(b));
+}
+Integer operator+(Integer a, int b) {
+  return checked(static_cast<long long>(a) + b);
+}
+Integer operator+(int a, Integer b) {
+  return checked(static_cast<long long>(a) + int(b));
+}
+Integer operator-(Integer a, Integer b) {
+  return checked(static_cast<long long>(a) - int(b));
+}
+Integer operator-(Integer a, int b) {
+  return checked(static_cast<long long>(a) - b);
+}
+Integer operator-(int a, Integer b) {
+  return checked(static_cast<long long>(a) - int(b));
+}
+Integer operator*(Integer a, Integer b) {
+  return checked(static_cast<long long>(a) * int(b));
+}
+Integer operator*(Integer a, int b) {
+  return checked(static_cast<long long>(a) * b);
+}
+Integer operator*(int a, Integer b) {
+  return checked(static_cast<long long>(a) * int(b));
+}
 
 }  // namespace veridraw

@@ -2,8 +2,8 @@
 
 #include <cctype>
 #include <cmath>
-#include <cstdio>
 #include <cstdint>
+#include <cstdio>
 
 #include "screen/fatal.h"
 
@@ -11,9 +11,13 @@ namespace veridraw {
 
 namespace {
 
-bool isDigit(char c) { return c >= '0' && c <= '9'; }
+bool isDigit(char c) {
+  return c >= '0' && c <= '9';
+}
 
-bool isBlank(char c) { return c == ' ' || c == '\t' || c == '\n'; }
+bool isBlank(char c) {
+  return c == ' ' || c == '\t' || c == '\n';
+}
 
 int hexDigit(char c) {
   if (isDigit(c)) return c - '0';
@@ -30,7 +34,8 @@ class NumberReader {
 
   char peek() {
     if (skipInnerBlanks_)
-      while (pos_ < text_.size() && isBlank(text_[pos_])) ++pos_;
+      while (pos_ < text_.size() && isBlank(text_[pos_]))
+        ++pos_;
     return pos_ < text_.size() ? text_[pos_] : '\0';
   }
   void next() { ++pos_; }
@@ -123,8 +128,10 @@ class NumberReader {
 };
 
 std::string_view trimBlanks(std::string_view text) {
-  while (!text.empty() && (text.front() == ' ' || text.front() == '\t')) text.remove_prefix(1);
-  while (!text.empty() && (text.back() == ' ' || text.back() == '\t')) text.remove_suffix(1);
+  while (!text.empty() && (text.front() == ' ' || text.front() == '\t'))
+    text.remove_prefix(1);
+  while (!text.empty() && (text.back() == ' ' || text.back() == '\t'))
+    text.remove_suffix(1);
   return text;
 }
 
@@ -150,9 +157,13 @@ double StrictNumber(std::string_view text) {
   return result;
 }
 
-Integer StrictInteger(std::string_view text) { return Integer::fromDouble(StrictNumber(text)); }
+Integer StrictInteger(std::string_view text) {
+  return Integer::fromDouble(StrictNumber(text));
+}
 
-std::string CStr(int value) { return std::to_string(value); }
+std::string CStr(int value) {
+  return std::to_string(value);
+}
 
 std::string CStr(double value) {
   char text[32];
@@ -175,6 +186,8 @@ std::string Mid(std::string_view text, int start, int count) {
   return std::string(text.substr(from, static_cast<std::size_t>(count)));
 }
 
-int Len(std::string_view text) { return static_cast<int>(text.size()); }
+int Len(std::string_view text) {
+  return static_cast<int>(text.size());
+}
 
 }  // namespace veridraw

@@ -18,6 +18,8 @@ void Veridraw7a::CmdReadme_Click() {
   Unload();
 }
 
-void Veridraw7a::CmdForm1Exit_Click() { End(); }
+void Veridraw7a::CmdForm1Exit_Click() {
+  End();
+}
 
 }  // namespace veridraw
