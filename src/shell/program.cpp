@@ -2,12 +2,14 @@
 
 #include "shell/veridraw7a.h"
 #include "shell/veridraw7d.h"
+#include "tickets/veridraw7b.h"
 
 namespace veridraw {
 
 void addVeridrawForms(Application& application) {
   application.addForm<Veridraw7a>();
   application.addForm<Veridraw7d>();
+  application.addForm<Veridraw7b>();
 }
 
 }  // namespace veridraw
