@@ -53,6 +53,12 @@ class LottoScreen : public ::testing::Test {
     ASSERT_TRUE(app->running());
   }
 
+  // Main Menu, then the Lotto screen again: a second opening of the form.
+  void reopen() {
+    click("BtnRestart");
+    app->click(app->form("Veridraw7f").control("Btn1Lotto"));
+  }
+
   Form& screen() const { return app->form("Veridraw7b"); }
   Control& c(const std::string& name) const { return screen().control(name); }
   Control& c(const std::string& name, int index) const { return screen().control(name, index); }
