@@ -459,6 +459,8 @@ ScenarioResult runScenario(std::istream& in, std::ostream& out, bool verbose) {
       scenario.runLine(line);
     } catch (const ScenarioFailure& failure) {
       return {false, number, failure.what()};
+    } catch (const std::exception& error) {
+      return {false, number, std::string("internal error of the program: ") + error.what()};
     }
   }
   return {};
