@@ -15,6 +15,7 @@
 
 namespace veridraw::testing {
 
+// Stands in for the draw screen: Btn1Lotto opens the Lotto screen again.
 class DrawScreenStandIn : public Form {
  public:
   explicit DrawScreenStandIn(Application& application)
@@ -22,7 +23,12 @@ class DrawScreenStandIn : public Form {
                                      11880,
                                      8595,
                                      colors::kButtonFace,
-                                     {button("BtnCheckTickets", {0, 0, 100, 100}, "x")}}) {}
+                                     {button("Btn1Lotto", {0, 0, 100, 100}, "Lotto")}}) {
+    on("Btn1Lotto", Event::Click, [this] {
+      Show("Veridraw7b");
+      Unload();
+    });
+  }
 };
 
 class LottoScreen : public ::testing::Test {
