@@ -88,8 +88,11 @@ Scenario::~Scenario() {
 }
 
 void Scenario::runLine(std::string_view line) {
+  // A comment is ignored whole, quotes and all: it is not split into words.
+  const std::size_t first = line.find_first_not_of(" \t\r");
+  if (first == std::string_view::npos || line[first] == '#') return;
   const std::vector<Token> words = tokenize(line);
-  if (words.empty() || (!words[0].quoted && words[0].text.front() == '#')) return;
+  if (words.empty()) return;
   const auto command = commands_.find(words[0].quoted ? "" : words[0].text);
   if (command == commands_.end()) throw ScenarioFailure("unknown command: " + words[0].text);
   (this->*command->second)(words);
