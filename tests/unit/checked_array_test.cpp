@@ -2,21 +2,11 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
-
 #include "screen/integer.h"
+#include "unit/test_support.h"
 
 namespace veridraw {
 namespace {
-
-int fatalNumberOf(const std::function<void()>& action) {
-  try {
-    action();
-  } catch (const FatalError& error) {
-    return error.number();
-  }
-  return 0;
-}
 
 TEST(CheckedArray, HoldsOneValuePerIndexFromLowerToUpperAndStartsAtZero) {
   CheckedArray<Integer> cells(0, 87);
@@ -32,9 +22,9 @@ TEST(CheckedArray, HoldsOneValuePerIndexFromLowerToUpperAndStartsAtZero) {
 
 TEST(CheckedArray, AnIndexOutsideTheBoundsIsFatal9) {
   CheckedArray<Integer> counts(1, 5);
-  EXPECT_EQ(fatalNumberOf([&] { counts(0) = 1; }), 9);
-  EXPECT_EQ(fatalNumberOf([&] { counts(6) = 1; }), 9);
-  EXPECT_EQ(fatalNumberOf([&] { counts(5) = 1; }), 0);
+  EXPECT_EQ(testing::fatalNumberOf([&] { counts(0) = 1; }), 9);
+  EXPECT_EQ(testing::fatalNumberOf([&] { counts(6) = 1; }), 9);
+  EXPECT_EQ(testing::fatalNumberOf([&] { counts(5) = 1; }), 0);
 }
 
 }  // namespace

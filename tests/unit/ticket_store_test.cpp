@@ -18,15 +18,6 @@ std::string typedCell(int k) {
 
 class TicketStore : public ::testing::Test {
  protected:
-  int fatalNumberOf(const std::function<void()>& action) {
-    try {
-      action();
-    } catch (const FatalError& error) {
-      return error.number();
-    }
-    return 0;
-  }
-
   testing::TemporaryDirectory dir;
   SequentialFiles files{dir.path()};
   TicketFields ticket;
@@ -111,23 +102,23 @@ TEST_F(TicketStore, LoadingLosesTheLeadingBlankSoPairKStartsAt2KMinus1) {
 
 TEST_F(TicketStore, LoadingAMissingTicketIsFatal53AfterTicketNumberIsWritten) {
   Integer LineCount;
-  EXPECT_EQ(fatalNumberOf([&] { LoadTicket(files, ticket, "Lotto # 9", LineCount); }), 53);
+  EXPECT_EQ(testing::fatalNumberOf([&] { LoadTicket(files, ticket, "Lotto # 9", LineCount); }), 53);
   EXPECT_EQ(dir.read("TicketNumber"), "Lotto # 9\r\n");
 }
 
 TEST_F(TicketStore, AFileOfTooFewLinesIsFatal62) {
   dir.write("Lotto # 9", " 4 \r\nLotto # 9\r\n");
   Integer LineCount;
-  EXPECT_EQ(fatalNumberOf([&] { LoadTicket(files, ticket, "Lotto # 9", LineCount); }), 62);
+  EXPECT_EQ(testing::fatalNumberOf([&] { LoadTicket(files, ticket, "Lotto # 9", LineCount); }), 62);
 }
 
 TEST_F(TicketStore, APowerBallTicketOfThreeRecordsIsFatal62) {
   dir.write("P-Ball # 9", " 4 \r\nP-Ball # 9\r\n 01\r\n");
   Integer LineCount;
   std::string PowerBallText;
-  EXPECT_EQ(
-      fatalNumberOf([&] { LoadTicket(files, ticket, "P-Ball # 9", LineCount, &PowerBallText); }),
-      62);
+  EXPECT_EQ(testing::fatalNumberOf(
+                [&] { LoadTicket(files, ticket, "P-Ball # 9", LineCount, &PowerBallText); }),
+            62);
 }
 
 TEST_F(TicketStore, DeletingRemovesTheFileAndLeavesTicketNumberAlone) {
