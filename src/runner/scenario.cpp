@@ -88,11 +88,10 @@ Scenario::~Scenario() {
 }
 
 void Scenario::runLine(std::string_view line) {
-  // A comment is ignored whole, quotes and all: it is not split into words.
+  // A blank line or a comment, whose words are not read at all.
   const std::size_t first = line.find_first_not_of(" \t\r");
   if (first == std::string_view::npos || line[first] == '#') return;
   const std::vector<Token> words = tokenize(line);
-  if (words.empty()) return;
   const auto command = commands_.find(words[0].quoted ? "" : words[0].text);
   if (command == commands_.end()) throw ScenarioFailure("unknown command: " + words[0].text);
   (this->*command->second)(words);
@@ -299,7 +298,7 @@ void Scenario::close(const Words& words) {
 }
 
 std::string Scenario::focusName() const {
-  const Control* focused = program_ ? program_->focus() : nullptr;
+  const Control* focused = program_ && program_->running() ? program_->focus() : nullptr;
   return focused == nullptr ? "none" : focused->displayName();
 }
 

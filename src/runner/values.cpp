@@ -1,5 +1,6 @@
 #include "runner/values.h"
 
+#include <cctype>
 #include <cmath>
 #include <cstdio>
 #include <functional>
@@ -73,7 +74,10 @@ const std::map<std::string, PropertyReader>& propertyTable() {
 }
 
 bool parseNumber(const std::string& text, double& result) {
-  if (text.empty()) return false;
+  // Digits first, after an optional minus: no "nan", "inf" or "+1".
+  const std::size_t firstDigit = !text.empty() && text[0] == '-' ? 1 : 0;
+  if (firstDigit >= text.size() || !std::isdigit(static_cast<unsigned char>(text[firstDigit])))
+    return false;
   std::size_t used = 0;
   try {
     if (text.size() > 2 && text[0] == '0' && (text[1] == 'x' || text[1] == 'X')) {

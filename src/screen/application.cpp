@@ -117,12 +117,13 @@ void Application::moveFocus(Form& form, Control* from, bool backwards) {
   const std::size_t first = start == order.end() ? 0 : std::size_t(start - order.begin()) + 1;
   for (std::size_t step = 0; step < order.size(); ++step) {
     Control* candidate = order[(first + step) % order.size()];
-    if (candidate != from && candidate->canTakeFocus() && candidate->tabStop()) {
+    if (candidate->canTakeFocus() && candidate->tabStop()) {
       form.setFocusPointer(candidate);
       return;
     }
   }
-  form.setFocusPointer(nullptr);
+  // No tab stop is left: the focus stays where it is, if it still can.
+  form.setFocusPointer(from != nullptr && from->canTakeFocus() ? from : nullptr);
 }
 
 void Application::click(Control& control) {

@@ -157,7 +157,10 @@ std::string CStr(int value) { return std::to_string(value); }
 std::string CStr(double value) {
   char text[32];
   std::snprintf(text, sizeof text, "%.15g", value);
-  return text;
+  std::string result = text;
+  for (char& c : result)
+    if (c == 'e') c = 'E';  // the runtime writes "1E+20"
+  return result;
 }
 
 std::string Left(std::string_view text, int count) {

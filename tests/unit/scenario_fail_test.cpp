@@ -1,0 +1,176 @@
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "unit/play_scenario.h"
+
+namespace veridraw {
+namespace {
+
+using testing::play;
+
+struct FailCase {
+  std::string name;
+  std::string scenario;
+  int line;
+  std::vector<std::string> mentions;  // what was expected and what was found
+};
+
+void PrintTo(const FailCase& c, std::ostream* out) {
+  *out << c.name;
+}
+
+std::string byName(const ::testing::TestParamInfo<FailCase>& info) {
+  return info.param.name;
+}
+
+class ScenarioFails : public ::testing::TestWithParam<FailCase> {};
+
+TEST_P(ScenarioFails, AtItsLineWithAReason) {
+  const FailCase& c = GetParam();
+  const testing::Played played = play(c.scenario);
+  ASSERT_FALSE(played.result.passed);
+  EXPECT_EQ(played.result.line, c.line) << played.result.reason;
+  for (const std::string& mention : c.mentions)
+    EXPECT_NE(played.result.reason.find(mention), std::string::npos)
+        << "the reason \"" << played.result.reason << "\" doesn't mention " << mention;
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Properties, ScenarioFails,
+    ::testing::Values(
+        FailCase{"WrongCaption",
+                 "start\nexpect BtnStart.Caption \"Start\"\n",
+                 2,
+                 {"BtnStart.Caption", "\"Start\"", "\"Press &Enter to Start\""}},
+        FailCase{"WrongColour",
+                 "start\nexpect BtnStart.BackColor 0xFF0000\n",
+                 2,
+                 {"BtnStart.BackColor", "0xFF0000", "0x0000FF"}},
+        FailCase{"WrongNumber", "start\nexpect BtnStart.Left 5000\n", 2, {"5000", "5880"}},
+        FailCase{"WrongBoolean", "start\nexpect Label6.Visible False\n", 2, {"False", "True"}},
+        FailCase{"NumberForAString",
+                 "start\nexpect Label2.Caption 36\n",
+                 2,
+                 {"36", "\"Lotto Veridraw\""}},
+        FailCase{"TextOfALabel", "start\nexpect Label2.Text \"x\"\n", 2, {"Label2", "Text"}},
+        FailCase{
+            "LockedOfAButton", "start\nexpect BtnStart.Locked False\n", 2, {"BtnStart", "Locked"}},
+        FailCase{"TopIndexOfATextBox",
+                 "start\nkey Alt+R\nexpect Text2.TopIndex 0\n",
+                 3,
+                 {"Text2", "TopIndex"}},
+        FailCase{"UnknownProperty", "start\nexpect BtnStart.Colour 1\n", 2, {"Colour"}},
+        FailCase{"UnknownControl", "start\nexpect BtnNone.Visible True\n", 2, {"BtnNone"}},
+        FailCase{"NotAValue", "start\nexpect BtnStart.Left left\n", 2, {"left"}},
+        FailCase{"ArrayWithoutIndex", "start\nexpect LineA.Visible True\n", 2, {"LineA"}}),
+    byName);
+
+INSTANTIATE_TEST_SUITE_P(
+    TargetsAndForms, ScenarioFails,
+    ::testing::Values(
+        FailCase{"ARangeWithAnElementOutOfStep",
+                 "start\nexpect LineA(1..6).Left 1575\n",
+                 2,
+                 {"LineA(2).Left", "1575"}},
+        FailCase{
+            "ARangePastTheArray", "start\nexpect LineA(29..31).Visible True\n", 2, {"LineA(31)"}},
+        FailCase{"AMissingElement", "start\nexpect LineA(0).Visible True\n", 2, {"LineA(0)"}},
+        FailCase{"ARangeOutsideExpect", "start\nclick LineA(1..2)\n", 2, {"LineA(1..2)"}},
+        FailCase{"AFormNotLoaded",
+                 "start\nexpect Veridraw7d.BtnStart.Visible True\n",
+                 2,
+                 {"Veridraw7d"}},
+        FailCase{"AFormThatDoesntExist",
+                 "start\nexpect Veridraw9.BtnStart.Visible True\n",
+                 2,
+                 {"Veridraw9"}},
+        FailCase{
+            "TheWrongForm", "start\nexpect form Veridraw7d\n", 2, {"Veridraw7d", "Veridraw7a"}},
+        FailCase{
+            "TheFocusElsewhere", "start\nexpect focus CmdReadme\n", 2, {"CmdReadme", "BtnStart"}},
+        FailCase{"ItemsOfAButton", "start\nexpect items BtnStart\n", 2, {"BtnStart", "list box"}},
+        FailCase{"AFormAfterTheEnd", "start\nkey Alt+X\nexpect form Veridraw7a\n", 3, {"ended"}}),
+    byName);
+
+INSTANTIATE_TEST_SUITE_P(
+    UserActions, ScenarioFails,
+    ::testing::Values(
+        FailCase{
+            "ClickingAHiddenLabel", "start\nkey Alt+R\nclick Label6\n", 3, {"Label6", "hidden"}},
+        FailCase{
+            "ClickingAHiddenTextBox", "start\nkey Alt+R\nclick Text2\n", 3, {"Text2", "hidden"}},
+        FailCase{
+            "ClickingAFormNotOnScreen", "start\nclick Veridraw7d.BtnStart\n", 2, {"Veridraw7d"}},
+        FailCase{
+            "SelectingInAButton", "start\nclick BtnStart \"705\"\n", 2, {"BtnStart", "list box"}},
+        FailCase{"ClickingBeforeStart", "click BtnStart\n", 1, {"click", "started"}},
+        FailCase{"KeysBeforeStart", "key Enter\n", 1, {"started"}},
+        FailCase{"TypingBeforeStart", "type \"12\"\n", 1, {"type", "started"}},
+        FailCase{"KeysAfterTheEnd", "start\nkey Alt+X\nkey Enter\n", 3, {"ended"}},
+        FailCase{"TypingAfterTheEnd", "start\nclose\ntype \"1\"\n", 3, {"ended"}},
+        FailCase{"ClosingAfterTheEnd", "start\nclose\nclose\n", 3, {"ended"}},
+        FailCase{"AnUnknownKey", "start\nkey F5\n", 2, {"F5"}},
+        FailCase{"AnAltWithoutALetter", "start\nkey Alt+5\n", 2, {"Alt+5"}},
+        FailCase{"AReplyThatIsNoAnswer", "reply True\n", 1, {"reply"}},
+        FailCase{"StartingTwice", "start\nstart\n", 2, {"started"}}),
+    byName);
+
+INSTANTIATE_TEST_SUITE_P(
+    ProgramState, ScenarioFails,
+    ::testing::Values(
+        FailCase{
+            "RunningAfterTheEnd", "start\nkey Alt+X\nexpect running\n", 3, {"running", "ended"}},
+        FailCase{"RunningBeforeStart", "expect running\n", 1, {"running", "not started"}},
+        FailCase{"EndedWhileRunning", "start\nexpect ended\n", 2, {"ended", "running"}},
+        FailCase{"FatalWhileRunning", "start\nexpect fatal 53\n", 2, {"53", "running"}},
+        FailCase{
+            "FatalAfterAnEnd", "start\nclick CmdForm1Exit\nexpect fatal 53\n", 3, {"53", "ended"}}),
+    byName);
+
+INSTANTIATE_TEST_SUITE_P(
+    DialogsAndFiles, ScenarioFails,
+    ::testing::Values(
+        FailCase{"AMessageBoxNeverShown",
+                 "start\nexpect msgbox \"Are these numbers correct?\" 36 \"Veridraw\"\n",
+                 2,
+                 {"msgbox \"Are these numbers correct?\" 36 \"Veridraw\"", "no"}},
+        FailCase{
+            "AnInputBoxNeverShown",
+            "start\nexpect inputbox \"Enter the Draw Number\" \"Draw Number\" \"\" 3280 2750\n",
+            2,
+            {"inputbox \"Enter the Draw Number\" \"Draw Number\" \"\" 3280 2750"}},
+        FailCase{"AFileWithOtherBytes",
+                 "file DrawNumber \"705\\r\\n\"\nexpect file DrawNumber \"705\\n\"\n",
+                 2,
+                 {"DrawNumber", "\"705\\n\"", "\"705\\r\\n\""}},
+        FailCase{"AFileThatIsntThere",
+                 "expect file DrawNumber \"705\\r\\n\"\n",
+                 1,
+                 {"DrawNumber", "no such file"}},
+        FailCase{"NoFileButThereIsOne",
+                 "file 705 \"705\\r\\n\"\nexpect nofile 705\n",
+                 2,
+                 {"705", "\"705\\r\\n\""}},
+        FailCase{"AFileNameWithAFolder", "file sub/x \"\"\n", 1, {"sub/x"}}),
+    byName);
+
+INSTANTIATE_TEST_SUITE_P(
+    Lines, ScenarioFails,
+    ::testing::Values(
+        FailCase{"AnUnknownCommand", "start\nfrobnicate now\n", 2, {"frobnicate"}},
+        FailCase{"AnOpenString", "file a \"x\n", 1, {"quote"}},
+        FailCase{"AnUnknownEscape", "file a \"\\q\"\n", 1, {"\\q"}},
+        FailCase{"BlankAndCommentLinesCount",
+                 "# the start screen\n\nstart\n\n  # then a wrong form\nexpect form Veridraw7d\n",
+                 6,
+                 {"Veridraw7d"}},
+        FailCase{"TheFirstFailingLineStopsTheScenario",
+                 "start\nexpect form Veridraw7d\nfrobnicate\n",
+                 2,
+                 {"Veridraw7d"}}),
+    byName);
+
+}  // namespace
+}  // namespace veridraw
