@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "screen/integer.h"
+#include "unit/expect_fatal.h"
 #include "unit/test_support.h"
 
 namespace veridraw {

@@ -5,18 +5,7 @@
 #include <iterator>
 #include <stdexcept>
 
-#include "screen/fatal.h"
-
 namespace veridraw::testing {
-
-int fatalNumberOf(const std::function<void()>& action) {
-  try {
-    action();
-  } catch (const FatalError& error) {
-    return error.number();
-  }
-  return 0;
-}
 
 TemporaryDirectory::TemporaryDirectory() {
   std::string pattern = (std::filesystem::temp_directory_path() / "veridraw-test-XXXXXX").string();

@@ -4,7 +4,6 @@
 
 #include <deque>
 #include <filesystem>
-#include <functional>
 #include <string>
 #include <variant>
 #include <vector>
@@ -12,9 +11,6 @@
 #include "screen/dialogs.h"
 
 namespace veridraw::testing {
-
-// The number of the fatal error that the action raises, or 0 if it raises none.
-int fatalNumberOf(const std::function<void()>& action);
 
 // A new empty directory, removed with everything in it at the end of the test.
 class TemporaryDirectory {

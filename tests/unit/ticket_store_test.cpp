@@ -6,6 +6,7 @@
 
 #include "screen/fatal.h"
 #include "screen/strings.h"
+#include "unit/expect_fatal.h"
 #include "unit/test_support.h"
 
 namespace veridraw::store {
