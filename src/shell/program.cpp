@@ -1,5 +1,6 @@
 #include "shell/program.h"
 
+#include "draws/veridraw7f.h"
 #include "shell/veridraw7a.h"
 #include "shell/veridraw7d.h"
 #include "tickets/veridraw7b.h"
@@ -9,6 +10,7 @@ namespace veridraw {
 void addVeridrawForms(Application& application) {
   application.addForm<Veridraw7a>();
   application.addForm<Veridraw7d>();
+  application.addForm<Veridraw7f>();
   application.addForm<Veridraw7b>();
 }
 

@@ -1,5 +1,5 @@
 // The design of the start screen, as its designer laid it out.
-#include "shell/sample_ticket.h"
+#include "decoration/sample_ticket.h"
 #include "shell/veridraw7a.h"
 
 namespace veridraw {
@@ -29,7 +29,13 @@ FormDesign veridraw7aDesign() {
     document("OLE8", {11055, 240, 615, 615}, "mark"),
   };
   // clang-format on
-  addSampleTicket(form.controls);
+  addSampleTicket(form.controls, {.lines = 5,
+                                  .numbersPerLine = 6,
+                                  .left = 1575,
+                                  .top = 2220,
+                                  .lineStep = 3,
+                                  .columnStep = 5,
+                                  .lineNumbers = true});
   return form;
 }
 

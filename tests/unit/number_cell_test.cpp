@@ -1,0 +1,44 @@
+#include "draws/number_cell.h"
+
+#include <gtest/gtest.h>
+
+namespace veridraw {
+namespace {
+
+TEST(NumberCell, IsFullWithTwoCharactersAndTheBlank) {
+  EXPECT_TRUE(IsFullCell("12 "));
+  EXPECT_TRUE(IsFullCell("5  "));
+  EXPECT_FALSE(IsFullCell(" "));
+  EXPECT_FALSE(IsFullCell("1 "));
+  EXPECT_FALSE(IsFullCell("  "));
+}
+
+TEST(NumberCell, AFullCellBelowOneIsOutOfRange) {
+  EXPECT_TRUE(IsOutOfRange("00 "));
+  EXPECT_TRUE(IsOutOfRange("ab "));
+  EXPECT_TRUE(IsOutOfRange("   "));
+  EXPECT_FALSE(IsOutOfRange("01 "));
+}
+
+TEST(NumberCell, ACellNotYetFullIsNeverTooLow) {
+  EXPECT_FALSE(IsOutOfRange(" "));
+  EXPECT_FALSE(IsOutOfRange("0 "));
+  EXPECT_FALSE(IsOutOfRange("a "));
+  EXPECT_FALSE(IsOutOfRange("  "));
+}
+
+TEST(NumberCell, AboveFortyIsOutOfRangeAtAnyLength) {
+  EXPECT_TRUE(IsOutOfRange("41 "));
+  EXPECT_TRUE(IsOutOfRange("99 "));
+  EXPECT_TRUE(IsOutOfRange("41"));
+  EXPECT_FALSE(IsOutOfRange("40 "));
+}
+
+TEST(NumberCell, ADigitFollowedByAnythingCountsAsTheDigit) {
+  EXPECT_FALSE(IsOutOfRange("5x "));
+  EXPECT_FALSE(IsOutOfRange("5  "));
+  EXPECT_FALSE(IsOutOfRange(" 1 "));
+}
+
+}  // namespace
+}  // namespace veridraw
