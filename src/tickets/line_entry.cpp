@@ -9,6 +9,8 @@
 // reads the counters as the inner one left them and runs out: that is how a
 // refused number gives exactly one message. The loops are kept as they stand
 // for that reason, each bound taken once when its loop starts.
+#include <cstddef>
+
 #include "screen/dialogs.h"
 #include "screen/strings.h"
 #include "tickets/ticket_screen.h"

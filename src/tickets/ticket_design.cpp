@@ -1,6 +1,7 @@
 #include "tickets/ticket_design.h"
 
 #include <string>
+#include <utility>
 
 namespace veridraw::tickets {
 
