@@ -1,0 +1,258 @@
+#include "gui/control_painting.h"
+
+#include <QTextLayout>
+#include <algorithm>
+
+#include "gui/appearance.h"
+#include "gui/pictures.h"
+
+namespace veridraw::gui {
+
+namespace {
+
+constexpr int kBevel = 2;
+constexpr int kTextMargin = 2;
+constexpr int kFocusInset = 4;
+constexpr int kLeastShrink = 2;
+constexpr int kShrinkShare = 8;
+
+void drawFrame(QPainter& painter, const QRect& area, const QColor& topLeft,
+               const QColor& bottomRight) {
+  painter.setPen(topLeft);
+  painter.drawLine(area.topLeft(), area.topRight());
+  painter.drawLine(area.topLeft(), area.bottomLeft());
+  painter.setPen(bottomRight);
+  painter.drawLine(area.bottomLeft(), area.bottomRight());
+  painter.drawLine(area.topRight(), area.bottomRight());
+}
+
+void drawRaised(QPainter& painter, const QRect& area) {
+  drawFrame(painter, area, edges::kHighlight, edges::kDarkShadow);
+  drawFrame(painter, area.adjusted(1, 1, -1, -1), edges::kLight, edges::kShadow);
+}
+
+void drawSunken(QPainter& painter, const QRect& area) {
+  drawFrame(painter, area, edges::kShadow, edges::kHighlight);
+  drawFrame(painter, area.adjusted(1, 1, -1, -1), edges::kDarkShadow, edges::kLight);
+}
+
+void drawPressed(QPainter& painter, const QRect& area) {
+  drawFrame(painter, area, edges::kDarkShadow, edges::kDarkShadow);
+  drawFrame(painter, area.adjusted(1, 1, -1, -1), edges::kShadow, edges::kShadow);
+}
+
+// The width of the border that the model's BorderStyle gives a text or list box.
+int fieldBorder(const ControlLook& look) {
+  return look.borderStyle != 0 ? kBevel : 0;
+}
+
+// The dotted rectangle of the keyboard focus.
+void drawFocusRect(QPainter& painter, const QRect& area,
+                   const QColor& colour = edges::kDarkShadow) {
+  QPen pen(colour);
+  pen.setDashPattern({1, 1});
+  painter.setPen(pen);
+  painter.setBrush(Qt::NoBrush);
+  painter.drawRect(area.adjusted(0, 0, -1, -1));
+}
+
+Qt::Alignment horizontal(Alignment alignment) {
+  switch (alignment) {
+    case Alignment::Right:
+      return Qt::AlignRight;
+    case Alignment::Center:
+      return Qt::AlignHCenter;
+    case Alignment::Left:
+      break;
+  }
+  return Qt::AlignLeft;
+}
+
+// The designed font, or a pixel or two smaller where the caption would not fit
+// its control in it: the forms were laid out for a face narrower than most.
+QFont captionFont(const QRect& area, int flags, const ControlLook& look) {
+  QFont font = look.font;
+  const int designed = font.pixelSize();
+  const int smallest = designed - std::max(kLeastShrink, designed / kShrinkShare);
+  for (int pixels = designed; pixels > smallest; --pixels) {
+    font.setPixelSize(pixels);
+    // The descenders of the last line may be cut, as the classic forms cut them.
+    const QFontMetrics metrics(font);
+    const QRect needed = metrics.boundingRect(area, flags, look.text);
+    if (needed.width() <= area.width() && needed.height() - metrics.descent() <= area.height())
+      return font;
+  }
+  font.setPixelSize(smallest);
+  return font;
+}
+
+// A caption: the "&" underlines the access key; a disabled one is etched.
+void drawCaption(QPainter& painter, const QRect& area, int flags, const ControlLook& look) {
+  flags |= Qt::TextShowMnemonic | Qt::TextWordWrap;
+  painter.setFont(captionFont(area, flags, look));
+  if (!look.enabled) {
+    painter.setPen(edges::kHighlight);
+    painter.drawText(area.translated(1, 1), flags, look.text);
+    painter.setPen(edges::kShadow);
+  } else {
+    painter.setPen(look.foreground);
+  }
+  painter.drawText(area, flags, look.text);
+}
+
+void paintButton(QPainter& painter, const QRect& area, const ControlLook& look, bool pressed) {
+  painter.fillRect(area, look.background);
+  QRect face = area;
+  if (look.focused) {
+    // The button that Enter presses wears a black frame.
+    drawFrame(painter, face, edges::kDarkShadow, edges::kDarkShadow);
+    face.adjust(1, 1, -1, -1);
+  }
+  if (pressed) {
+    drawPressed(painter, face);
+  } else {
+    drawRaised(painter, face);
+  }
+  QRect content = face.adjusted(kBevel, kBevel, -kBevel, -kBevel);
+  if (pressed) content.translate(1, 1);
+  if (!look.picture.empty()) paintPicture(painter, content.adjusted(1, 1, -1, -1), look.picture);
+  if (!look.text.isEmpty()) drawCaption(painter, content, Qt::AlignCenter, look);
+  if (look.focused) {
+    const int inset = kFocusInset - kBevel;
+    drawFocusRect(painter, content.adjusted(inset, inset, -inset, -inset));
+  }
+}
+
+void paintLabel(QPainter& painter, const QRect& area, const ControlLook& look) {
+  painter.fillRect(area, look.background);
+  QRect content = area;
+  if (look.borderStyle != 0) {
+    drawSunken(painter, area);
+    content.adjust(kBevel, kBevel, -kBevel, -kBevel);
+  }
+  drawCaption(painter, content, horizontal(look.alignment) | Qt::AlignTop, look);
+}
+
+// The text of a text box, laid out on one line or, in a box tall enough for
+// more, wrapped; with the selection and, when it has the focus, the caret.
+void paintText(QPainter& painter, const QRect& inner, const ControlLook& look) {
+  const QFontMetrics metrics(look.font);
+  const bool wraps = inner.height() >= 2 * metrics.height();
+  QTextOption option(horizontal(look.alignment));
+  option.setWrapMode(wraps ? QTextOption::WrapAtWordBoundaryOrAnywhere : QTextOption::NoWrap);
+  QTextLayout layout(look.text, look.font);
+  layout.setTextOption(option);
+  const int width = inner.width() - 2 * kTextMargin;
+  qreal height = 0;
+  layout.beginLayout();
+  for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+    line.setLineWidth(width);
+    line.setPosition({0, height});
+    height += line.height();
+  }
+  layout.endLayout();
+
+  QPointF origin(inner.left() + kTextMargin, inner.top() + 1);
+  if (!wraps) origin.setY(inner.top() + std::max(0, (inner.height() - metrics.height()) / 2));
+  const QTextLine caretLine = layout.lineForTextPosition(look.caret);
+  if (!wraps && look.focused && caretLine.isValid()) {
+    // Keep the caret in view, as a single-line box scrolls its text.
+    const qreal caretX = caretLine.cursorToX(look.caret);
+    if (caretX > width) origin.rx() -= caretX - width;
+  }
+
+  QList<QTextLayout::FormatRange> selections;
+  if (look.selectionLength > 0) {
+    QTextLayout::FormatRange selection;
+    selection.start = look.caret;
+    selection.length = look.selectionLength;
+    selection.format.setBackground(edges::kSelection);
+    selection.format.setForeground(edges::kHighlight);
+    selections.append(selection);
+  }
+  painter.save();
+  painter.setClipRect(inner);
+  painter.setPen(look.foreground);
+  layout.draw(&painter, origin, selections);
+  if (look.focused) layout.drawCursor(&painter, origin, look.caret);
+  painter.restore();
+}
+
+void paintTextBox(QPainter& painter, const QRect& area, const ControlLook& look) {
+  painter.fillRect(area, look.background);
+  if (look.borderStyle != 0) drawSunken(painter, area);
+  const int border = fieldBorder(look);
+  paintText(painter, area.adjusted(border, border, -border, -border), look);
+}
+
+void paintListBox(QPainter& painter, const QRect& area, const ControlLook& look) {
+  painter.fillRect(area, look.background);
+  if (look.borderStyle != 0) drawSunken(painter, area);
+  const ListRows rows = listRows(area, look);
+  painter.save();
+  painter.setClipRect(rows.items);
+  painter.setFont(look.font);
+  for (int shown = 0; shown <= rows.visibleRows; ++shown) {
+    const int item = look.topIndex + shown;
+    if (item >= look.items.size()) break;
+    const QRect row(rows.items.left(), rows.items.top() + shown * rows.rowHeight,
+                    rows.items.width(), rows.rowHeight);
+    const bool selected = item == look.listIndex;
+    if (selected) painter.fillRect(row, edges::kSelection);
+    painter.setPen(selected ? edges::kHighlight : look.foreground);
+    painter.drawText(row.adjusted(kTextMargin, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter,
+                     look.items[item]);
+    if (look.focused && item == std::max(0, look.listIndex))
+      drawFocusRect(painter, row, selected ? edges::kHighlight : edges::kDarkShadow);
+  }
+  painter.restore();
+}
+
+}  // namespace
+
+ListRows listRows(const QRect& area, const ControlLook& look) {
+  ListRows rows;
+  const int border = fieldBorder(look);
+  rows.items = area.adjusted(border, border, -border, -border);
+  rows.rowHeight = std::max(1, QFontMetrics(look.font).height());
+  rows.visibleRows = std::max(1, rows.items.height() / rows.rowHeight);
+  if (look.items.size() > rows.visibleRows) {
+    rows.scrollBar = rows.items;
+    rows.scrollBar.setLeft(rows.items.right() - kScrollBarWidth + 1);
+    rows.items.setRight(rows.scrollBar.left() - 1);
+  }
+  return rows;
+}
+
+int ListRows::rowAt(const QPoint& point, int topIndex, int itemCount) const {
+  if (!items.contains(point)) return -1;
+  const int row = topIndex + (point.y() - items.top()) / rowHeight;
+  return row < itemCount ? row : -1;
+}
+
+int ListRows::lastTopIndex(int itemCount) const {
+  return std::max(0, itemCount - visibleRows);
+}
+
+void paintControl(QPainter& painter, const QRect& area, const ControlLook& look, bool pressed) {
+  switch (look.kind) {
+    case ControlKind::CommandButton:
+      paintButton(painter, area, look, pressed);
+      break;
+    case ControlKind::Label:
+      paintLabel(painter, area, look);
+      break;
+    case ControlKind::TextBox:
+      paintTextBox(painter, area, look);
+      break;
+    case ControlKind::ListBox:
+      paintListBox(painter, area, look);
+      break;
+    case ControlKind::Image:
+    case ControlKind::Document:
+      paintPicture(painter, area, look.picture);
+      break;
+  }
+}
+
+}  // namespace veridraw::gui

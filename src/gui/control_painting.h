@@ -1,0 +1,31 @@
+// Paints controls in the look of the classic desktop: raised buttons, sunken
+// white boxes, flat labels, the focus drawn where the model has it.
+#pragma once
+
+#include <QPainter>
+#include <QRect>
+
+#include "gui/control_look.h"
+
+namespace veridraw::gui {
+
+void paintControl(QPainter& painter, const QRect& area, const ControlLook& look, bool pressed);
+
+// The rows of a list box, for painting them and for finding the row under the
+// mouse. A scroll bar, when the items don't fit, takes the right edge.
+inline constexpr int kScrollBarWidth = 16;
+
+struct ListRows {
+  QRect items;      // the area of the rows, inside the border
+  QRect scrollBar;  // empty when every item fits
+  int rowHeight = 0;
+  int visibleRows = 0;
+
+  // The item under the point, or -1.
+  int rowAt(const QPoint& point, int topIndex, int itemCount) const;
+  int lastTopIndex(int itemCount) const;
+};
+
+ListRows listRows(const QRect& area, const ControlLook& look);
+
+}  // namespace veridraw::gui

@@ -1,0 +1,15 @@
+// The documents shown in place on the forms: small pages of notes, each with
+// a coloured heading, read by no logic.
+#pragma once
+
+#include <QPainter>
+#include <QRectF>
+#include <string_view>
+
+namespace veridraw::gui {
+
+// Paints the document of that name ("document-lotto" and so on); returns
+// false, painting nothing, for a name that isn't a document.
+bool paintDocument(QPainter& painter, const QRectF& area, std::string_view name);
+
+}  // namespace veridraw::gui

@@ -1,0 +1,114 @@
+#include "gui/form_window.h"
+
+#include <QCloseEvent>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QScreen>
+
+#include "gui/appearance.h"
+#include "gui/control_view.h"
+#include "gui/desktop.h"
+#include "gui/key_input.h"
+#include "gui/windows1252.h"
+#include "screen/application.h"
+
+namespace veridraw::gui {
+
+namespace {
+
+// Labels and images are drawn on the form itself, beneath every control that
+// is a window of its own.
+bool drawnOnForm(ControlKind kind) {
+  return kind == ControlKind::Label || kind == ControlKind::Image;
+}
+
+}  // namespace
+
+FormWindow::FormWindow(Desktop& desktop, Form& form)
+    : QWidget(nullptr, Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                           Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint),
+      desktop_(desktop),
+      form_(form),
+      generation_(form.generation()) {
+  setWindowTitle(fromWindows1252(kFormCaption));
+  setFixedSize(toPixels(form.design().clientWidth), toPixels(form.design().clientHeight));
+  setFocusPolicy(Qt::StrongFocus);
+  QPalette colours = palette();
+  colours.setColor(QPalette::Window, modelColor(form.design().backColor));
+  setPalette(colours);
+  setAutoFillBackground(true);
+
+  for (const bool onForm : {true, false}) {
+    for (const auto& control : form.controls()) {
+      if (drawnOnForm(control->kind()) == onForm)
+        views_.push_back(new ControlView(*this, *control));
+    }
+  }
+  centreOnScreen();
+}
+
+void FormWindow::centreOnScreen() {
+  QRect frame = frameGeometry();
+  frame.moveCenter(QGuiApplication::primaryScreen()->availableGeometry().center());
+  move(frame.topLeft());
+}
+
+bool FormWindow::showsCurrentControls() const {
+  return form_.loaded() && form_.generation() == generation_;
+}
+
+void FormWindow::sync() {
+  const Control* focus = form_.focus();
+  for (ControlView* view : views_) {
+    if (const Control* control = controlOf(*view)) view->sync(*control, control == focus);
+  }
+}
+
+ControlView* FormWindow::view(std::string_view name, int index) const {
+  for (ControlView* view : views_)
+    if (view->controlName() == name && view->controlIndex() == index) return view;
+  return nullptr;
+}
+
+Control* FormWindow::controlOf(const ControlView& view) const {
+  if (!showsCurrentControls()) return nullptr;
+  return form_.find(view.controlName(), view.controlIndex());
+}
+
+void FormWindow::clicked(const ControlView& view) {
+  if (Control* control = controlOf(view))
+    desktop_.act([control](Application& application) { application.click(*control); });
+}
+
+void FormWindow::itemSelected(const ControlView& view, int row) {
+  if (Control* control = controlOf(view))
+    desktop_.act(
+        [control, row](Application& application) { application.selectItem(*control, row); });
+}
+
+void FormWindow::scrolled(const ControlView& view, int topIndex) {
+  if (Control* control = controlOf(view)) desktop_.scroll(*control, topIndex);
+}
+
+bool FormWindow::event(QEvent* event) {
+  switch (event->type()) {
+    case QEvent::ShortcutOverride:
+      // Every key is the model's: no shortcut of the toolkit takes one.
+      event->accept();
+      return true;
+    case QEvent::KeyPress:
+      desktop_.key(translateKey(static_cast<const QKeyEvent&>(*event)));
+      return true;
+    case QEvent::KeyRelease:
+      return true;
+    default:
+      return QWidget::event(event);
+  }
+}
+
+void FormWindow::closeEvent(QCloseEvent* event) {
+  event->ignore();
+  desktop_.act([](Application& application) { application.closeWindow(); });
+}
+
+}  // namespace veridraw::gui

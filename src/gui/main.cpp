@@ -1,0 +1,27 @@
+// veridraw: the desktop program. It runs the forms of Veridraw in the current
+// working directory, where its draw and ticket files are, starting at the
+// start screen.
+#include <QApplication>
+#include <filesystem>
+
+#include "gui/classic_style.h"
+#include "gui/desktop.h"
+#include "gui/desktop_dialogs.h"
+#include "shell/program.h"
+
+int main(int argc, char** argv) {
+  QApplication qt(argc, argv);
+  // The program ends by End, by the close button or by a fatal error, never
+  // because a window went away in passing from one form to the next.
+  QApplication::setQuitOnLastWindowClosed(false);
+  veridraw::gui::useClassicStyle();
+
+  veridraw::gui::DesktopDialogs dialogs;
+  veridraw::Application application(dialogs, std::filesystem::current_path());
+  veridraw::addVeridrawForms(application);
+  veridraw::gui::Desktop desktop(application, dialogs);
+  desktop.onFinished([](int exitCode) { QCoreApplication::exit(exitCode); });
+  desktop.start(veridraw::kFirstForm);
+  if (desktop.finished()) return desktop.exitCode();
+  return QApplication::exec();
+}

@@ -1,0 +1,70 @@
+// Renders the start and readme screens of the real program, and a test form
+// with a control of every kind, to PNG files in the test's directory,
+// screens/, for the README and for a look by eye.
+#include <QDir>
+#include <QImage>
+#include <QSet>
+#include <QTest>
+
+#include "gui/classic_style.h"
+#include "gui_test_support.h"
+#include "shell/program.h"
+#include "test_forms.h"
+
+using namespace veridraw;
+using namespace veridraw::gui;
+using namespace veridraw::gui::testing;
+
+class ScreenshotTest : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void initTestCase() {
+    useClassicStyle();
+    QVERIFY(QDir().mkpath("screens"));
+  }
+
+  void startScreen() {
+    ProgramOnDesktop program;
+    program.start(kFirstForm);
+    saveAndCheck(*program.window(), "screens/start.png");
+  }
+
+  void everyKindOfControl() {
+    ProgramOnDesktop program(addSamplerForms);
+    program.start(kSampler);
+    QTest::keyClicks(program.window(), "12");
+    ControlView& draws = *program.view("Draws");
+    QTest::mouseClick(&draws, Qt::LeftButton, {}, QPoint(10, 30));
+    QTest::keyClick(program.window(), Qt::Key_M, Qt::AltModifier);
+    ControlView& entry = *program.view("Entry");
+    QTest::mouseClick(&entry, Qt::LeftButton, {}, middleOf(entry));
+    saveAndCheck(*program.window(), "screens/controls.png", QSize(400, 300));
+  }
+
+  void readmeScreenWithDisclaimer() {
+    ProgramOnDesktop program;
+    program.start(kFirstForm);
+    QTest::keyClick(program.window(), Qt::Key_R, Qt::AltModifier);
+    QTest::keyClick(program.window(), Qt::Key_D, Qt::AltModifier);
+    QCOMPARE(program.window()->form().name(), "Veridraw7d");
+    saveAndCheck(*program.window(), "screens/readme.png");
+  }
+
+ private:
+  static void saveAndCheck(QWidget& window, const QString& file,
+                           const QSize& size = QSize(794, 575)) {
+    const QImage image = window.grab().toImage();
+    QCOMPARE(image.size(), size);
+    QVERIFY(image.save(file));
+    // A screen with its pictures and captions drawn has many colours.
+    QSet<QRgb> colours;
+    for (int y = 0; y < image.height(); ++y)
+      for (int x = 0; x < image.width(); ++x)
+        colours.insert(image.pixel(x, y));
+    QVERIFY2(colours.size() > 100, qPrintable(QString::number(colours.size())));
+  }
+};
+
+QTEST_MAIN(ScreenshotTest)
+#include "screenshot_test.moc"
