@@ -2,6 +2,7 @@
 
 #include <QPainterPath>
 #include <algorithm>
+#include <array>
 
 #include "gui/picture_parts.h"
 
@@ -10,6 +11,14 @@ namespace veridraw::gui {
 namespace {
 
 const QColor kGold(232, 182, 30);
+const QColor kNoticeInk(20, 40, 110);
+
+// The owner's notice, from the whole sentence to the fewest words: a narrow
+// button shows the longest that it can show legibly.
+constexpr std::array kNotices{"Veridraw is free to use and to share", "Free to use and to share",
+                              "Free to share"};
+constexpr int kNoticePixels = 13;
+constexpr int kLegiblePixels = 10;
 const QColor kBanknote(120, 178, 110);
 
 QRectF centredSquare(const QRectF& area, qreal margin) {
@@ -87,8 +96,14 @@ void paintNotice(QPainter& painter, const QRectF& area) {
   painter.drawEllipse(badge);
   painter.restore();
   drawFittedText(painter, badge.adjusted(2, 2, -2, -2), "i", Qt::white, true, 40);
-  drawFittedText(painter, inner.adjusted(badge.width() + 8, 1, 0, -1),
-                 "Veridraw is free to use and to share", QColor(20, 40, 110), true, 13);
+  const QRectF text = inner.adjusted(badge.width() + 8, 1, 0, -1);
+  const char* notice = kNotices.back();
+  for (const char* words : kNotices) {
+    if (fittedFont(words, text.size(), true, kNoticePixels).pixelSize() < kLegiblePixels) continue;
+    notice = words;
+    break;
+  }
+  drawFittedText(painter, text, notice, kNoticeInk, true, kNoticePixels);
 }
 
 void paintCoins(QPainter& painter, const QRectF& area) {

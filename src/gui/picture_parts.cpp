@@ -19,7 +19,8 @@ bool darkColour(const QColor& colour) {
   return colour.lightness() < 150;
 }
 
-// The largest bold or plain font, up to `maxPixels`, in which the text fits the box.
+}  // namespace
+
 QFont fittedFont(const QString& text, const QSizeF& box, bool bold, int maxPixels) {
   QFont font = modelFont(8.25, bold);
   for (int pixels = std::max(kSmallestPixels, maxPixels); pixels >= kSmallestPixels; --pixels) {
@@ -31,8 +32,6 @@ QFont fittedFont(const QString& text, const QSizeF& box, bool bold, int maxPixel
   font.setPixelSize(kSmallestPixels);
   return font;
 }
-
-}  // namespace
 
 void drawBall(QPainter& painter, const QPointF& centre, qreal radius, const QColor& colour,
               const QString& number) {

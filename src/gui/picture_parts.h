@@ -14,6 +14,9 @@ namespace veridraw::gui {
 void drawBall(QPainter& painter, const QPointF& centre, qreal radius, const QColor& colour,
               const QString& number);
 
+// The largest bold or plain font, up to `maxPixels`, in which the text fits the box.
+QFont fittedFont(const QString& text, const QSizeF& box, bool bold, int maxPixels);
+
 // Text fitted into the box and centred in it.
 void drawFittedText(QPainter& painter, const QRectF& box, const QString& text, const QColor& colour,
                     bool bold, int maxPixels);

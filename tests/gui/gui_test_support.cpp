@@ -2,7 +2,14 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QInputDialog>
+#include <QLineEdit>
+#include <QTest>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
 
+#include "runner/delivered_files.h"
 #include "shell/program.h"
 
 namespace veridraw::gui::testing {
@@ -20,6 +27,22 @@ ProgramOnDesktop::ProgramOnDesktop(const FormAdder& addForms)
 
 void ProgramOnDesktop::start(std::string_view firstForm) {
   desktop_.start(firstForm);
+}
+
+void ProgramOnDesktop::deliver() {
+  for (const DeliveredFile& file : deliveredFiles())
+    writeFile(file.name, file.content);
+}
+
+void ProgramOnDesktop::writeFile(const std::string& name, const std::string& content) {
+  std::ofstream(std::filesystem::path(directory_.path().toStdString()) / name, std::ios::binary)
+      << content;
+}
+
+std::string ProgramOnDesktop::fileContent(const std::string& name) const {
+  std::ifstream file(std::filesystem::path(directory_.path().toStdString()) / name,
+                     std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
 }
 
 ControlView* ProgramOnDesktop::view(std::string_view name, int index) const {
@@ -50,6 +73,16 @@ DialogAnswer answerMessageBox(QMessageBox::StandardButton button, MessageBoxSeen
     auto* box = qobject_cast<QMessageBox*>(dialog);
     seen = {box->windowTitle(), box->text(), box->icon(), box->standardButtons()};
     box->button(button)->click();
+  });
+}
+
+DialogAnswer answerInputBox(const QString& answer, InputBoxSeen& seen) {
+  return DialogAnswer([&seen, answer](QWidget* dialog) {
+    auto* box = qobject_cast<QInputDialog*>(dialog);
+    seen = {box->windowTitle(), box->labelText(), box->textValue(), box->pos()};
+    auto* field = box->findChild<QLineEdit*>();
+    QTest::keyClicks(field, answer);
+    QTest::keyClick(field, Qt::Key_Return);
   });
 }
 

@@ -9,6 +9,7 @@
 #include <QTimer>
 #include <QWidget>
 #include <functional>
+#include <string>
 #include <string_view>
 
 #include "gui/control_view.h"
@@ -26,6 +27,11 @@ class ProgramOnDesktop {
   explicit ProgramOnDesktop(const FormAdder& addForms = {});
 
   void start(std::string_view firstForm);
+  // Puts the files that Veridraw is delivered with into the directory.
+  void deliver();
+  // Writes a file of the directory, or reads one whole; "" for a missing one.
+  void writeFile(const std::string& name, const std::string& content);
+  std::string fileContent(const std::string& name) const;
   Application& application() { return application_; }
   Desktop& desktop() { return desktop_; }
   // The window on screen; null when there is none.
@@ -70,6 +76,18 @@ struct MessageBoxSeen {
 
 // Waits for a message box, notes in `seen` what it shows, and presses `button`.
 DialogAnswer answerMessageBox(QMessageBox::StandardButton button, MessageBoxSeen& seen);
+
+// What an input box showed.
+struct InputBoxSeen {
+  QString title;
+  QString prompt;
+  QString start;
+  QPoint place;
+};
+
+// Waits for an input box, notes in `seen` what it shows, types `answer` into
+// its field key by key and presses Enter, which is OK.
+DialogAnswer answerInputBox(const QString& answer, InputBoxSeen& seen);
 
 // The point of a view, in its own coordinates, that a click should hit.
 QPoint middleOf(const QWidget& view);

@@ -169,6 +169,21 @@ class PaintingTest : public QObject {
     QVERIFY(distance(meanColour(strike), meanColour(powerBall)) > 60);
   }
 
+  void theNoticeStaysLegibleOnTheNarrowButtonOfTheDrawScreen() {
+    // The picture inside the 177 x 25 notice button of the draw screen, and
+    // inside the wider one of the start screen.
+    for (const int width : {171, 315}) {
+      const QImage notice = picture("notice", QSize(width, 19));
+      // The rows in which the dark blue words stand, right of the badge.
+      QSet<int> rows;
+      for (int y = 0; y < notice.height(); ++y)
+        for (int x = notice.height() + 4; x < notice.width(); ++x)
+          if (distance(notice.pixelColor(x, y), QColor(20, 40, 110)) < 40) rows.insert(y);
+      // Capitals of at least seven pixels: a face of ten pixels or more.
+      QVERIFY2(rows.size() >= 7, qPrintable(QString::number(rows.size())));
+    }
+  }
+
   void everyNameGetsAPicture() {
     const QSize size(80, 60);
     const QImage unknown = picture("no-such-picture", size);

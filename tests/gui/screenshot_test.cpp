@@ -1,5 +1,5 @@
-// Renders the start and readme screens of the real program, and a test form
-// with a control of every kind, to PNG files in the test's directory,
+// Renders the start, readme and draw screens of the real program, and a test
+// form with a control of every kind, to PNG files in the test's directory,
 // screens/, for the README and for a look by eye.
 #include <QDir>
 #include <QImage>
@@ -15,6 +15,13 @@ using namespace veridraw;
 using namespace veridraw::gui;
 using namespace veridraw::gui::testing;
 
+namespace {
+
+// The draw screen is 11880 x 8595 twips, a little smaller than the start screen.
+const QSize kDrawScreenSize(792, 573);
+
+}  // namespace
+
 class ScreenshotTest : public QObject {
   Q_OBJECT
 
@@ -28,6 +35,29 @@ class ScreenshotTest : public QObject {
     ProgramOnDesktop program;
     program.start(kFirstForm);
     saveAndCheck(*program.window(), "screens/start.png");
+  }
+
+  void drawScreen() {
+    ProgramOnDesktop program;
+    program.deliver();
+    program.start(kFirstForm);
+    QTest::keyClick(program.window(), Qt::Key_Return);
+    QCOMPARE(program.window()->form().name(), "Veridraw7f");
+    saveAndCheck(*program.window(), "screens/draw.png", kDrawScreenSize);
+  }
+
+  void drawScreenDuringALottoEntry() {
+    ProgramOnDesktop program;
+    program.deliver();
+    program.start(kFirstForm);
+    QTest::keyClick(program.window(), Qt::Key_Return);
+    InputBoxSeen seen;
+    const DialogAnswer reply = answerInputBox("1200", seen);
+    QTest::keyClick(program.window(), Qt::Key_L, Qt::AltModifier);
+    QVERIFY(reply.answered());
+    QTest::keyClicks(program.window(), "1705214");
+    QCOMPARE(program.view("TxtDrawnNumbers", 4)->look().text, "4 ");
+    saveAndCheck(*program.window(), "screens/draw-entry.png", kDrawScreenSize);
   }
 
   void everyKindOfControl() {
