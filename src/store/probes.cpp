@@ -5,13 +5,19 @@
 namespace veridraw::store {
 
 void ClearList(Control& list, int times) {
-  for (int i = 1; i <= times; ++i) list.Clear();
+  for (int i = 1; i <= times; ++i)
+    list.Clear();
 }
 
 int ListNames(SequentialFiles& files, Control& list, const std::string& prefix, int last,
               std::string& ProbeName) {
+  return ListNames(files, list, prefix, 1, last, ProbeName);
+}
+
+int ListNames(SequentialFiles& files, Control& list, const std::string& prefix, int first, int last,
+              std::string& ProbeName) {
   int found = 0;
-  for (int n = 1; n <= last; ++n) {
+  for (int n = first; n <= last; ++n) {
     ProbeName = prefix + CStr(n);
     if (files.Dir(ProbeName) != "") {
       list.AddItem(ProbeName);

@@ -20,6 +20,9 @@ void ClearList(Control& list, int times);
 // were added, for the screens that count a find.
 int ListNames(SequentialFiles& files, Control& list, const std::string& prefix, int last,
               std::string& ProbeName);
+// The same from n = `first`, for the screens whose game starts at a later draw.
+int ListNames(SequentialFiles& files, Control& list, const std::string& prefix, int first, int last,
+              std::string& ProbeName);
 
 // For n from 1 to `last`: ProbeName becomes the prefix and n in plain digits. A
 // missing file sets the flag to 1; a file whose name equals `wanted` exactly

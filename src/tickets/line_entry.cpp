@@ -1,0 +1,191 @@
+// The entry of a ticket, two characters to a number, with no Enter key. The
+// Change handler of the cells keeps no cursor: at each change it walks the
+// whole ticket from the first cell and derives from what the cells hold where
+// the cursor stands, which line is being typed and where the prompt goes.
+//
+// Its counters are form-level. Every assignment to a cell's Text that changes
+// it runs the handler again at once, nested inside the assignment, and that
+// inner walk leaves CurrentCell past the end of the ticket. The outer walk then
+// reads the counters as the inner one left them and runs out: that is how a
+// refused number gives exactly one message. The loops are kept as they stand
+// for that reason, each bound taken once when its loop starts.
+#include <cstddef>
+
+#include "screen/dialogs.h"
+#include "screen/strings.h"
+#include "tickets/ticket_screen.h"
+
+namespace veridraw::tickets {
+
+namespace {
+
+constexpr const char* kRangeMessage = "You Must enter a Number between 1 and 40";
+constexpr const char* kOrderMessage = "This is an incorrect number";
+constexpr const char* kWarningTitle = "WARNING";
+constexpr const char* kStepBack = "  ";  // the space bar in an empty cell
+constexpr const char* kEmptyCell = " ";
+
+}  // namespace
+
+// All the line buttons do the same with their own numbers. Only the button of
+// the longest ticket parks the cover grey: its spare cell lies at the foot of
+// the screen, behind the notice.
+void TicketScreen::LineButton_Click(const LineButton& button) {
+  LineCount = button.lines;
+  OwnNumRoutine();
+  Control& cover = LineA(game_.coverCell());
+  cover.setTop(button.coverTop);
+  if (button.lines == game_.mostLines) cover.setBackColor(colors::kGrey);
+  cover.setVisible(true);
+  LineA(1).setLocked(false);
+}
+
+// Prepares the grid for a ticket of LineCount lines. It empties three cells
+// past the ticket as well, the spare cells that the walk reaches.
+void TicketScreen::OwnNumRoutine() {
+  const int cells = LineCount * game_.cellsPerLine;
+  for (int cell = cells + 1; cell <= game_.gridCells(); ++cell)
+    LineA(cell).setVisible(false);
+  for (int cell = 1; cell <= cells; ++cell) {
+    IntResult(cell).setText(" ");
+    IntResult(cell).setBackColor(colors::kPaleYellow);
+  }
+  for (int cell = 1; cell <= cells + 3; ++cell) {
+    LineA(cell).setText(kEmptyCell);
+    LineA(cell).setBackColor(colors::kWhite);
+    LineA(cell).setBorderStyle(1);
+  }
+  for (int cell = 1; cell <= cells; ++cell)
+    LineA(cell).setVisible(true);
+  ShowLetters(1, LineCount, true);
+  ShowLetters(LineCount + 1, game_.mostLines, false);
+  TxtNoofLines->setVisible(false);
+  BtnCancel->setVisible(false);
+  ShowLineButtons(false);
+  LblEnterLine->setVisible(true);
+  LblSpaceBar->setCaption(kSpaceBarHint);
+  LblSpaceBar->setHeight(kOneMessageHeight);
+  LblSpaceBar->setVisible(true);
+  LineA(game_.coverCell()).setBackColor(colors::kPaleYellow);
+  LineA(1).SetFocus();
+}
+
+void TicketScreen::LineA_Change() {
+  CmdShowResults->setVisible(false);
+  LineA(1).setTabStop(true);
+  LineStartCell = 1;
+  const int bound = LineCount * game_.cellsPerLine + 2;
+  for (CurrentCell = 1; CurrentCell <= bound; CurrentCell = CurrentCell + 1) {
+    BacktrackTest();
+    RangeTest();
+    if (Len(LineA(CurrentCell).text()) == kCompleteCell && CurrentCell != 1) OrderTest();
+    if (Len(LineA(CurrentCell).text()) == kCompleteCell) {
+      Advance();
+      if (CurrentCell == LineCount * game_.cellsPerLine) EndOfEntry();
+    }
+  }
+}
+
+// The space bar in an empty cell empties the cell before it, and gives it the
+// focus. Cell 1 has no cell before it, and its two blanks stay.
+void TicketScreen::BacktrackTest() {
+  if (CurrentCell == 1 || LineA(CurrentCell).text() != kStepBack) return;
+  LineA(CurrentCell - 1).setLocked(false);
+  LineA(CurrentCell - 1).SetFocus();
+  LineA(CurrentCell - 1).setText(kEmptyCell);
+  LineA(CurrentCell).setText(kEmptyCell);
+}
+
+// A value above 40 is refused at once; one below 1 when the cell is complete.
+void TicketScreen::RangeTest() {
+  const double value = CellValue(CurrentCell);
+  if (value > kHighestNumber ||
+      (Len(LineA(CurrentCell).text()) == kCompleteCell && value < kLowestNumber))
+    Refuse(kRangeMessage);
+}
+
+// Each pair of cells from the start of the line up to the complete cell must be
+// in the order of the game. The test never looks back across LineStartCell, so
+// equal numbers on different lines pass.
+void TicketScreen::OrderTest() {
+  const int lastFirst = CurrentCell;
+  for (OrderFirst = LineStartCell; OrderFirst <= lastFirst; OrderFirst = OrderFirst + 1) {
+    const int lastSecond = CurrentCell;
+    for (OrderSecond = OrderFirst + 1; OrderSecond <= lastSecond; OrderSecond = OrderSecond + 1) {
+      if (LineA(OrderFirst).text() == kEmptyCell && LineA(OrderSecond).text() == kEmptyCell) return;
+      if (OutOfOrder()) Refuse(kOrderMessage);
+    }
+  }
+}
+
+// The numbers of a line ascend strictly from left to right, which refuses a
+// repeated number as well.
+bool TicketScreen::OutOfOrder() {
+  return CellValue(OrderFirst) >= CellValue(OrderSecond) ||
+         CellValue(CurrentCell) == CellValue(OrderFirst);
+}
+
+void TicketScreen::Refuse(const std::string& message) {
+  LineA(CurrentCell).setBackColor(colors::kRed);
+  LastMessageResult = MsgBox(message, msgbox::kOkOnly, kWarningTitle);
+  LineA(CurrentCell).setBackColor(colors::kWhite);
+  LineA(CurrentCell).SetFocus();
+  LineA(CurrentCell).setText(kEmptyCell);
+}
+
+// A complete cell is locked and the cursor moves on to the next one.
+void TicketScreen::Advance() {
+  LineA(CurrentCell + 1).setLocked(false);
+  LineA(CurrentCell + 1).setVisible(true);
+  LineA(CurrentCell + 1).SetFocus();
+  LineA(CurrentCell).setLocked(true);
+  LblEnterLine->setVisible(false);
+  EntBox();
+  LblEnterLine->setVisible(true);
+}
+
+// At the last cell of a line, the prompt moves to the next line and the order
+// test starts there. The prompt is never moved back; it also moves one line
+// past the ticket for an instant before the end of entry hides it.
+void TicketScreen::EntBox() {
+  const int cell = CurrentCell;
+  const int line = cell / game_.cellsPerLine;
+  if (cell % game_.cellsPerLine != 0 || line < 1 || line >= game_.mostLines) return;
+  const std::string letter(1, LineLetter(line + 1));
+  LblEnterLine->setCaption("Line " + letter + " -- Enter the " + CStr(game_.cellsPerLine) +
+                           " Two Digit numbers");
+  LblEnterLine->setTop(game_.promptTops[static_cast<std::size_t>(line - 1)]);
+  LineStartCell = cell + 1;
+}
+
+// The last cell is complete: the focus is parked on the spare cell under the
+// cover, the cells become the ticket's numbers and turn into a display, and
+// the ticket is checked against the draw on display at this moment.
+void TicketScreen::EndOfEntry() {
+  const int cells = LineCount * game_.cellsPerLine;
+  LineA(cells + 1).SetFocus();
+  for (int cell = 1; cell <= cells; ++cell) {
+    TicketCells(cell) = CellInteger(cell);
+    IntResult(cell).setLocked(false);
+  }
+  LblSpaceBar->setVisible(false);
+  LblEnterLine->setVisible(false);
+  FreezeDraw();
+  for (int cell = 1; cell <= cells; ++cell) {
+    LineA(cell).setBackColor(colors::kPaleYellow);
+    LineA(cell).setBorderStyle(0);
+  }
+  NumberSortRoutine();
+  for (int cell = 1; cell <= cells; ++cell)
+    IntResult(cell).setLocked(true);
+  BtnCheckNewTicket->setVisible(false);
+  LblSpaceBar->setCaption(kSavedTicketsHint);
+  LblSpaceBar->setHeight(kTwoMessagesHeight);
+  LblSpaceBar->setVisible(true);
+  BtnSaveTicket->setVisible(true);
+  LineA(1).setTabStop(false);
+  CmdShowResults->setVisible(true);
+  CmdShowResults->SetFocus();
+}
+
+}  // namespace veridraw::tickets

@@ -1,0 +1,209 @@
+// The flow of a ticket screen: the home state, the two roads of a new and a
+// saved ticket, Cancel, and the way out. The state of the screen is what is
+// visible; each event shows and hides a fixed list of controls.
+#include "tickets/ticket_screen.h"
+
+#include <utility>
+
+#include "screen/dialogs.h"
+#include "screen/strings.h"
+
+namespace veridraw::tickets {
+
+namespace {
+
+constexpr int kLowListLeft = 3300;
+constexpr int kLowListTop = 7200;
+constexpr int kLowLabelTop = 6720;
+constexpr int kHighListLeft = 4980;
+constexpr int kHighListTop = 4560;
+constexpr int kHighLabelTop = 5850;
+constexpr int kListHeight = 1230;
+constexpr double kNoTicketsFontSize = 10;
+
+}  // namespace
+
+char LineLetter(int line) {
+  return static_cast<char>(line <= 8 ? 'A' + line - 1 : 'A' + line);
+}
+
+TicketScreen::TicketScreen(Application& application, FormDesign design, TicketGame game)
+    : Form(application, std::move(design)),
+      game_(std::move(game)),
+      TicketCells(0, game_.lastTicketCell) {
+  on("BtnCheckNewTicket", Event::Click, [this] { BtnCheckNewTicket_Click(); });
+  on("BtnCheckSavedTickets", Event::Click, [this] { BtnCheckSavedTickets_Click(); });
+  on("BtnCancel", Event::Click, [this] { BtnCancel_Click(); });
+  on("BtnRestart", Event::Click, [this] { BtnRestart_Click(); });
+  on("CmdEnd", Event::Click, [this] { CmdEnd_Click(); });
+  for (const LineButton& button : game_.lineButtons)
+    on(button.name, Event::Click, [this, &button] { LineButton_Click(button); });
+  on(game_.cellArray, Event::Change, [this](int) { LineA_Change(); });
+  on("CmdShowResults", Event::Click, [this] { CmdShowResults_Click(); });
+  on("BtnSaveTicket", Event::Click, [this] { BtnSaveTicket_Click(); });
+  on("List1", Event::Click, [this] { List1_Click(); });
+  on("LstLottoTicket", Event::Click, [this] { LstLottoTicket_Click(); });
+  on("BtnDeleteTicket", Event::Click, [this] { BtnDeleteTicket_Click(); });
+}
+
+double TicketScreen::CellValue(int cell) const {
+  return Val(LineA(cell).text());
+}
+
+Integer TicketScreen::CellInteger(int cell) const {
+  return Integer::fromDouble(CellValue(cell));
+}
+
+Control& TicketScreen::PrizeCountBox(int row) {
+  return control(game_.prizeCountBox + CStr(row));
+}
+
+Control& TicketScreen::PrizeLabel(int row) {
+  return control(game_.prizeLabel + CStr(row));
+}
+
+void TicketScreen::ShowLetters(int first, int last, bool visible) {
+  for (int line = first; line <= last; ++line) {
+    TextATxt(line).setVisible(visible);
+    TextBTxt(line).setVisible(visible);
+  }
+}
+
+void TicketScreen::ShowLineButtons(bool visible) {
+  for (const LineButton& button : game_.lineButtons)
+    control(button.name).setVisible(visible);
+}
+
+// The end of every Form_Load: the two roads, the lists, and no ticket yet.
+void TicketScreen::ShowHomeChoices() {
+  BtnCheckNewTicket->setVisible(true);
+  BtnCheckSavedTickets->setVisible(true);
+  FileExists2();
+  ListVisible();
+  FileExists();
+  FileExists1();
+  LineA(1).setTabStop(false);
+  List1->setTopIndex(0);
+}
+
+// Brings the list of draws to its low place, under the draw area.
+void TicketScreen::ListVisible() {
+  LblDrawsAvailable->setTop(kLowLabelTop);
+  LblDrawsAvailable->setLeft(kLowListLeft);
+  LblDrawsAvailable->setVisible(true);
+  List1->setLeft(kLowListLeft);
+  List1->setTop(kLowListTop);
+  List1->setHeight(kListHeight);
+  List1->setVisible(true);
+}
+
+void TicketScreen::BtnCheckNewTicket_Click() {
+  ListVisible();
+  LblSavedTickets2->setVisible(true);
+  List2->setVisible(true);
+  BtnCheckNewTicket->setVisible(false);
+  BtnCheckSavedTickets->setVisible(false);
+  BtnCancel->setVisible(true);
+  TxtNoofLines->setVisible(true);
+  ShowLineButtons(true);
+  LblSpaceBar->setHeight(kOneMessageHeight);
+  LblSpaceBar->setFontBold(false);
+  LblSpaceBar->setCaption(kSpaceBarHint);
+  LblSpaceBar->setVisible(true);
+}
+
+void TicketScreen::BtnCheckSavedTickets_Click() {
+  LblSavedTickets2->setVisible(false);
+  List2->setVisible(false);
+  LblDrawsAvailable->setTop(kHighLabelTop);
+  LblDrawsAvailable->setLeft(kHighListLeft);
+  LblDrawsAvailable->setVisible(true);
+  List1->setTop(kHighListTop);
+  List1->setLeft(kHighListLeft);
+  List1->setHeight(kListHeight);
+  List1->setVisible(true);
+  LstLottoTicket->setVisible(true);
+  BtnCheckNewTicket->setVisible(false);
+  BtnCheckSavedTickets->setVisible(false);
+  LblSavedTickets->setVisible(true);
+  LbLchangeDraw->setVisible(true);
+  LbLchangeTicket->setVisible(true);
+  BtnDeleteTicket->setVisible(true);
+  BtnCancel->setVisible(true);
+  if (SavedTicketsExist != 0) {
+    LblSpaceBar->setHeight(kTwoMessagesHeight);
+    LblSpaceBar->setFontBold(false);
+    LblSpaceBar->setCaption(kSavedTicketsHint);
+  } else {
+    LblSpaceBar->setHeight(kOneMessageHeight);
+    LblSpaceBar->setFontSize(kNoTicketsFontSize);
+    LblSpaceBar->setFontBold(true);
+    LblSpaceBar->setCaption(kNoSavedTickets);
+  }
+  SavedMode = 1;
+  LblSpaceBar->setVisible(true);
+  List1->setTopIndex(0);
+  LstLottoTicket->setTopIndex(0);
+}
+
+// Deliberately not the state of Form_Load: the lists stay hidden until the next
+// button, only the letters of the home grid stand, and those of the prize grid
+// come back with them. Cells past the home grid keep their text while hidden,
+// and LineCount and SavedMode are left as they are.
+void TicketScreen::BtnCancel_Click() {
+  BtnCancel->setVisible(false);
+  BtnCheckNewTicket->setVisible(true);
+  BtnCheckSavedTickets->setVisible(true);
+  ShowLineButtons(false);
+  for (const ControlRef* hidden :
+       {&LblSavedTickets2, &List2, &LblEnterLine, &LblSpaceBar, &TxtNoofLines, &CmdShowResults,
+        &LblDrawsAvailable, &LblSavedTickets, &LbLchangeDraw, &LbLchangeTicket, &BtnDeleteTicket,
+        &List1, &LstLottoTicket, &LblSaved})
+    (*hidden)->setVisible(false);
+  Image3->setVisible(true);
+  Image4->setVisible(true);
+  ClearResults();
+  for (int cell = 1; cell <= game_.gridCells(); ++cell)
+    LineA(cell).setVisible(false);
+  for (int cell = 1; cell <= game_.homeCells; ++cell) {
+    LineA(cell).setBackColor(colors::kWhite);
+    LineA(cell).setText(" ");
+    LineA(cell).setBorderStyle(1);
+  }
+  for (int cell = 1; cell <= game_.homeCells; ++cell)
+    LineA(cell).setVisible(true);
+  ShowLetters(1, game_.homeCells / game_.cellsPerLine, true);
+}
+
+// Blanks the whole outcome: the prize grid, the letters, the pictures of a win
+// and the prize rows.
+void TicketScreen::ClearResults() {
+  for (int cell = 1; cell <= game_.gridCells(); ++cell) {
+    IntResult(cell).setText(" ");
+    IntResult(cell).setBackColor(colors::kPaleYellow);
+    IntResult(cell).setForeColor(colors::kBlack);
+  }
+  ShowLetters(1, game_.mostLines, false);
+  ImgCoins->setVisible(false);
+  ImgMoney->setVisible(false);
+  Image1->setVisible(true);
+  Image2->setVisible(true);
+  for (int row = 1; row <= game_.prizeRows; ++row)
+    PrizeCountBox(row).setVisible(false);
+  for (int row = 1; row <= game_.prizeRows; ++row)
+    PrizeLabel(row).setVisible(false);
+  LblYouveWon->setVisible(false);
+  LblEnterLine->setVisible(false);
+}
+
+void TicketScreen::BtnRestart_Click() {
+  Show("Veridraw7f");
+  Unload();
+}
+
+// Ends the program at once, with no question: nothing is saved.
+void TicketScreen::CmdEnd_Click() {
+  End();
+}
+
+}  // namespace veridraw::tickets

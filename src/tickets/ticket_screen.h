@@ -1,0 +1,143 @@
+// The ground of the three ticket screens: the flow of their states, the entry
+// of a ticket digit by digit, and the saving, loading and deleting of tickets.
+// The Lotto screen is the model of the three, so the procedures bear its names
+// (`LineA_Change`, `OwnNumRoutine`, `LstLottoTicket_Click`); what a game does
+// otherwise is read from its TicketGame, and what it does in its own way is a
+// virtual procedure that its screen overrides. The check itself, the display
+// of a draw and the summary of prizes belong to each screen.
+#pragma once
+
+#include <string>
+
+#include "screen/application.h"
+#include "screen/checked_array.h"
+#include "screen/form.h"
+#include "screen/integer.h"
+#include "store/draw_store.h"
+#include "store/ticket_store.h"
+#include "tickets/ticket_game.h"
+
+namespace veridraw::tickets {
+
+inline constexpr const char* kSpaceBarHint = "To correct errors  backtrack with the Space Bar";
+inline constexpr const char* kSavedTicketsHint =
+    "To check saved tickets  Click on the Draw Number and then the Ticket Number";
+inline constexpr const char* kNoNumbersMessage = "No numbers have been entered for this draw";
+inline constexpr const char* kNoSavedTickets = "There are no Saved Tickets";
+inline constexpr int kLowestNumber = 1;
+inline constexpr int kHighestNumber = 40;
+// A cell whose text has this length is complete: two characters and the blank.
+inline constexpr int kCompleteCell = 3;
+// Heights of LblSpaceBar for a message of one line and of two.
+inline constexpr int kOneMessageHeight = 615;
+inline constexpr int kTwoMessagesHeight = 880;
+
+class TicketScreen : public Form, public store::DrawFields, public store::TicketFields {
+ public:
+  TicketScreen(Application& application, FormDesign design, TicketGame game);
+
+ protected:
+  // The flow of the states.
+  void ShowHomeChoices();
+  void ListVisible();
+  virtual void BtnCheckNewTicket_Click();
+  virtual void BtnCheckSavedTickets_Click();
+  virtual void BtnCancel_Click();
+  void BtnRestart_Click();
+  void CmdEnd_Click();
+  virtual void ClearResults();
+
+  // The entry of a ticket.
+  void LineButton_Click(const LineButton& button);
+  virtual void OwnNumRoutine();
+  void LineA_Change();
+  void EntBox();
+  virtual void EndOfEntry();
+
+  // Saved tickets.
+  void TicketNumber();
+  void ListClear();
+  void ListClear1();
+  void ListClear2();
+  void FileExists();
+  void FileExists1();
+  void FileExists2();
+  void FileExists3();
+  virtual void BtnSaveTicket_Click();
+  virtual void LstLottoTicket_Click();
+  virtual void BtnDeleteTicket_Click();
+
+  // What each game does in its own way.
+  virtual void List1_Click() = 0;
+  virtual void CmdShowResults_Click() = 0;
+  // Takes the numbers of the draw on display for the check that follows.
+  virtual void FreezeDraw() = 0;
+  virtual void NumberSortRoutine() = 0;
+  // Whether the complete cell CurrentCell breaks the rule of its line against
+  // the cells OrderFirst and OrderSecond: on the Lotto screen a line ascends.
+  virtual bool OutOfOrder();
+
+  // The value of a cell's text by the Val rule.
+  double CellValue(int cell) const;
+  Integer CellInteger(int cell) const;
+  Control& PrizeCountBox(int row);
+  Control& PrizeLabel(int row);
+  void ShowLetters(int first, int last, bool visible);
+
+  const TicketGame game_;
+
+  Integer LineCount;
+  Integer SavedMode;
+  Integer SavedTicketsExist;
+  Integer CurrentCell;
+  Integer LineStartCell;
+  Integer OrderFirst;
+  Integer OrderSecond;
+  Integer LastMessageResult;
+  CheckedArray<Integer> TicketCells;
+  std::string ProbeName;
+
+  const ControlArray LineA{*this, game_.cellArray};
+  const ControlArray IntResult{*this, "IntResult"};
+  const ControlArray TextATxt{*this, "TextATxt"};
+  const ControlArray TextBTxt{*this, "TextBTxt"};
+  const ControlRef BtnCheckNewTicket{*this, "BtnCheckNewTicket"};
+  const ControlRef BtnCheckSavedTickets{*this, "BtnCheckSavedTickets"};
+  const ControlRef BtnSaveTicket{*this, "BtnSaveTicket"};
+  const ControlRef CmdShowResults{*this, "CmdShowResults"};
+  const ControlRef BtnRestart{*this, "BtnRestart"};
+  const ControlRef BtnCancel{*this, "BtnCancel"};
+  const ControlRef BtnDeleteTicket{*this, "BtnDeleteTicket"};
+  const ControlRef List1{*this, "List1"};
+  const ControlRef List2{*this, "List2"};
+  const ControlRef LstLottoTicket{*this, "LstLottoTicket"};
+  const ControlRef LblDrawsAvailable{*this, "LblDrawsAvailable"};
+  const ControlRef LblSavedTickets{*this, "LblSavedTickets"};
+  const ControlRef LblSavedTickets2{*this, "LblSavedTickets2"};
+  const ControlRef LbLchangeDraw{*this, "LbLchangeDraw"};
+  const ControlRef LbLchangeTicket{*this, "LbLchangeTicket"};
+  const ControlRef LblSaved{*this, "LblSaved"};
+  const ControlRef LblSpaceBar{*this, "LblSpaceBar"};
+  const ControlRef LblEnterLine{*this, "LblEnterLine"};
+  const ControlRef LblYouveWon{*this, "LblYouveWon"};
+  const ControlRef TxtNoofLines{*this, "TxtNoofLines"};
+  const ControlRef TxtDrawBox{*this, "TxtDrawBox"};
+  const ControlRef ImgCoins{*this, "ImgCoins"};
+  const ControlRef ImgMoney{*this, "ImgMoney"};
+  const ControlRef Image1{*this, "Image1"};
+  const ControlRef Image2{*this, "Image2"};
+  const ControlRef Image3{*this, "Image3"};
+  const ControlRef Image4{*this, "Image4"};
+
+ private:
+  void ShowLineButtons(bool visible);
+  void BacktrackTest();
+  void RangeTest();
+  void OrderTest();
+  void Advance();
+  // A refused number: the cell CurrentCell red while the message stands, then
+  // white, with the focus, and empty.
+  void Refuse(const std::string& message);
+};
+
+}  // namespace veridraw::tickets
