@@ -46,6 +46,7 @@ Veridraw7f::Veridraw7f(Application& application) : Form(application, veridraw7fD
   on("BtnEnterStrikeNumbers", Event::Click, [this] { BtnEnterStrikeNumbers_Click(); });
   on("BtnCheckTickets", Event::Click, [this] { BtnCheckTickets_Click(); });
   on("BtnCancel", Event::Click, [this] { BtnCancel_Click(); });
+  on("Btn1Lotto", Event::Click, [this] { Btn1Lotto_Click(); });
   on("BtnRestart", Event::Click, [this] { BtnRestart_Click(); });
   on("CmdEnd", Event::Click, [this] { CmdEnd_Click(); });
   on("List1", Event::Click, [this] { List1_Click(); });
@@ -223,6 +224,11 @@ void Veridraw7f::BtnCancel_Click() {
   BtnPowerBall->setVisible(false);
   Btn2Strike->setVisible(false);
   Btn1Lotto->setVisible(false);
+}
+
+void Veridraw7f::Btn1Lotto_Click() {
+  Show("Veridraw7b");
+  Unload();
 }
 
 void Veridraw7f::BtnRestart_Click() {

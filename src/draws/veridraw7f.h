@@ -78,6 +78,7 @@ class Veridraw7f : public Form, private store::DrawFields {
   void BtnEnterStrikeNumbers_Click();
   void BtnCheckTickets_Click();
   void BtnCancel_Click();
+  void Btn1Lotto_Click();
   void BtnRestart_Click();
   void CmdEnd_Click();
   void List1_Click();
