@@ -136,7 +136,10 @@ void Scenario::deliver(const Words& words) {
 
 void Scenario::start(const Words& words) {
   expectWords(words, 1, "start");
-  if (program_) throw ScenarioFailure("the program has already been started");
+  // A launch after the program has ended starts a new run, with its forms and
+  // their variables made anew; a second launch beside a running one can't be.
+  if (program_ && program_->running()) throw ScenarioFailure("the program is already running");
+  program_.reset();
   program_ = std::make_unique<Application>(dialogs_, directory_);
   addVeridrawForms(*program_);
   program_->start(kFirstForm);

@@ -114,7 +114,7 @@ INSTANTIATE_TEST_SUITE_P(
         FailCase{"AnUnknownKey", "start\nkey F5\n", 2, {"F5"}},
         FailCase{"AnAltWithoutALetter", "start\nkey Alt+5\n", 2, {"Alt+5"}},
         FailCase{"AReplyThatIsNoAnswer", "reply True\n", 1, {"reply"}},
-        FailCase{"StartingTwice", "start\nstart\n", 2, {"started"}}),
+        FailCase{"StartingWhileRunning", "start\nstart\n", 2, {"already running"}}),
     byName);
 
 INSTANTIATE_TEST_SUITE_P(

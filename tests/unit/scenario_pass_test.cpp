@@ -124,6 +124,22 @@ expect nofile 705
                                "start\r\nexpect form Veridraw7a\r\n\r\n# done\r\n"},
                       PassCase{"EndingWithTheProgramRunningPasses", "start\nkey Tab\n"},
                       PassCase{"NoLineAtAllPasses", ""},
+                      PassCase{"StartingAgainAfterTheEndIsANewLaunch", R"(start
+key Alt+R
+expect form Veridraw7d
+key Alt+S
+key Alt+X
+expect ended
+start
+expect running
+expect form Veridraw7a
+expect focus BtnStart
+key Enter
+expect fatal 53
+start
+expect running
+expect form Veridraw7a
+)"},
                       PassCase{"FilesChangeWhileTheProgramRuns", R"(start
 file DrawNumber "12\r\n"
 expect file DrawNumber "12\r\n"
