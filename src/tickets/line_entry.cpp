@@ -40,8 +40,9 @@ void TicketScreen::LineButton_Click(const LineButton& button) {
   LineA(1).setLocked(false);
 }
 
-// Prepares the grid for a ticket of LineCount lines. It empties three cells
-// past the ticket as well, the spare cells that the walk reaches.
+// Prepares the grid for a ticket of LineCount lines. On the Lotto screen it
+// empties three cells past the ticket as well, the spare cells that the walk
+// reaches.
 void TicketScreen::OwnNumRoutine() {
   const int cells = LineCount * game_.cellsPerLine;
   for (int cell = cells + 1; cell <= game_.gridCells(); ++cell)
@@ -50,7 +51,7 @@ void TicketScreen::OwnNumRoutine() {
     IntResult(cell).setText(" ");
     IntResult(cell).setBackColor(colors::kPaleYellow);
   }
-  for (int cell = 1; cell <= cells + 3; ++cell) {
+  for (int cell = 1; cell <= cells + game_.sparesClearedWithTicket; ++cell) {
     LineA(cell).setText(kEmptyCell);
     LineA(cell).setBackColor(colors::kWhite);
     LineA(cell).setBorderStyle(1);
@@ -71,7 +72,7 @@ void TicketScreen::OwnNumRoutine() {
 }
 
 void TicketScreen::LineA_Change() {
-  CmdShowResults->setVisible(false);
+  if (game_.changeHidesShowResults) CmdShowResults->setVisible(false);
   LineA(1).setTabStop(true);
   LineStartCell = 1;
   const int bound = LineCount * game_.cellsPerLine + 2;
@@ -101,7 +102,7 @@ void TicketScreen::RangeTest() {
   const double value = CellValue(CurrentCell);
   if (value > kHighestNumber ||
       (Len(LineA(CurrentCell).text()) == kCompleteCell && value < kLowestNumber))
-    Refuse(kRangeMessage);
+    Refuse(kRangeMessage, game_.rangeRefusalShowsPrompt);
 }
 
 // Each pair of cells from the start of the line up to the complete cell must be
@@ -125,9 +126,10 @@ bool TicketScreen::OutOfOrder() {
          CellValue(CurrentCell) == CellValue(OrderFirst);
 }
 
-void TicketScreen::Refuse(const std::string& message) {
+void TicketScreen::Refuse(const std::string& message, bool showPrompt) {
   LineA(CurrentCell).setBackColor(colors::kRed);
   LastMessageResult = MsgBox(message, msgbox::kOkOnly, kWarningTitle);
+  if (showPrompt) LblEnterLine->setVisible(true);
   LineA(CurrentCell).setBackColor(colors::kWhite);
   LineA(CurrentCell).SetFocus();
   LineA(CurrentCell).setText(kEmptyCell);

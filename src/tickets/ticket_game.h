@@ -31,6 +31,16 @@ struct TicketGame {
   std::string prizeCountBox;
   std::string prizeLabel;
   int prizeRows = 0;
+  // Where the shared procedures part ways by game; the defaults are the Lotto
+  // screen's. Choosing the length empties this many spare cells after the
+  // ticket as well as the ticket's own.
+  int sparesClearedWithTicket = 3;
+  // Each change of a cell hides CmdShowResults before the walk.
+  bool changeHidesShowResults = true;
+  // The range message brings the line's prompt back.
+  bool rangeRefusalShowsPrompt = false;
+  // The instruction for saved tickets turns the bold of LblSpaceBar off.
+  bool savedHintClearsBold = true;
 
   int gridCells() const { return mostLines * cellsPerLine; }
   // The spare cells follow the grid, and the cover box follows them.

@@ -132,7 +132,7 @@ void TicketScreen::BtnCheckSavedTickets_Click() {
   BtnCancel->setVisible(true);
   if (SavedTicketsExist != 0) {
     LblSpaceBar->setHeight(kTwoMessagesHeight);
-    LblSpaceBar->setFontBold(false);
+    if (game_.savedHintClearsBold) LblSpaceBar->setFontBold(false);
     LblSpaceBar->setCaption(kSavedTicketsHint);
   } else {
     LblSpaceBar->setHeight(kOneMessageHeight);

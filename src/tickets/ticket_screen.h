@@ -136,8 +136,9 @@ class TicketScreen : public Form, public store::DrawFields, public store::Ticket
   void OrderTest();
   void Advance();
   // A refused number: the cell CurrentCell red while the message stands, then
-  // white, with the focus, and empty.
-  void Refuse(const std::string& message);
+  // white, with the focus, and empty; the prompt of the line is shown again
+  // after the message if asked.
+  void Refuse(const std::string& message, bool showPrompt = false);
 };
 
 }  // namespace veridraw::tickets
