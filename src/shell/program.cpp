@@ -3,6 +3,7 @@
 #include "draws/veridraw7f.h"
 #include "shell/veridraw7a.h"
 #include "shell/veridraw7d.h"
+#include "strike/veridraw7c.h"
 #include "tickets/veridraw7b.h"
 
 namespace veridraw {
@@ -12,6 +13,7 @@ void addVeridrawForms(Application& application) {
   application.addForm<Veridraw7d>();
   application.addForm<Veridraw7f>();
   application.addForm<Veridraw7b>();
+  application.addForm<Veridraw7c>();
 }
 
 }  // namespace veridraw
