@@ -67,19 +67,7 @@ void Veridraw7c::CmdShowResults_Click() {
   bool prizes = false;
   for (int hits = 1; hits <= kMostHits; ++hits)
     prizes = prizes || StrikeCount(hits) != 0;
-  if (!prizes) {
-    const int cells = LineCount * game_.cellsPerLine;
-    for (int cell = 1; cell <= cells; ++cell) {
-      TxtStrike(cell).setBackColor(colors::kPaleYellow);
-      TxtStrike(cell).setBorderStyle(0);
-      TxtStrike(cell).setVisible(true);
-    }
-    for (int line = 1; line <= LineCount; ++line)
-      TextATxt(line).setVisible(true);
-    LblYouveWon->setCaption("There are no Prizes on this Ticket");
-    for (const ControlRef* hidden : {&ImgCoins, &ImgMoney, &Image1, &Image2, &Image3, &Image4})
-      (*hidden)->setVisible(false);
-  }
+  if (!prizes) ShowTicketWithoutPrizes(LineCount * game_.cellsPerLine);
   LblYouveWon->setVisible(true);
   StrikeRowTop = kFirstRowTop;
   for (int hits = kMostHits; hits >= kBonusRow; --hits)

@@ -196,6 +196,21 @@ void TicketScreen::ClearResults() {
   LblEnterLine->setVisible(false);
 }
 
+// The ticket stands again on the left in pale yellow without borders, with
+// its letters, and the pictures of a win go.
+void TicketScreen::ShowTicketWithoutPrizes(int cells) {
+  for (int cell = 1; cell <= cells; ++cell) {
+    LineA(cell).setBackColor(colors::kPaleYellow);
+    LineA(cell).setBorderStyle(0);
+    LineA(cell).setVisible(true);
+  }
+  for (int line = 1; line <= LineCount; ++line)
+    TextATxt(line).setVisible(true);
+  LblYouveWon->setCaption("There are no Prizes on this Ticket");
+  for (const ControlRef* hidden : {&ImgCoins, &ImgMoney, &Image1, &Image2, &Image3, &Image4})
+    (*hidden)->setVisible(false);
+}
+
 void TicketScreen::BtnRestart_Click() {
   Show("Veridraw7f");
   Unload();

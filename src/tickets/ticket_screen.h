@@ -46,6 +46,8 @@ class TicketScreen : public Form, public store::DrawFields, public store::Ticket
   void BtnRestart_Click();
   void CmdEnd_Click();
   virtual void ClearResults();
+  // The outcome of a ticket that won nothing: cells 1 to `cells` come back.
+  void ShowTicketWithoutPrizes(int cells);
 
   // The entry of a ticket.
   void LineButton_Click(const LineButton& button);

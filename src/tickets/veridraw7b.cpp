@@ -149,18 +149,7 @@ void Veridraw7b::CmdShowResults_Click() {
   bool prizes = false;
   for (int division = 1; division <= kDivisions; ++division)
     prizes = prizes || DivisionCount(division) != 0;
-  if (!prizes) {
-    for (int cell = 1; cell <= cells + 3; ++cell) {
-      LineA(cell).setBackColor(colors::kPaleYellow);
-      LineA(cell).setBorderStyle(0);
-      LineA(cell).setVisible(true);
-    }
-    for (int line = 1; line <= LineCount; ++line)
-      TextATxt(line).setVisible(true);
-    LblYouveWon->setCaption("There are no Prizes on this Ticket");
-    for (const ControlRef* hidden : {&ImgCoins, &ImgMoney, &Image1, &Image2, &Image3, &Image4})
-      (*hidden)->setVisible(false);
-  }
+  if (!prizes) ShowTicketWithoutPrizes(cells + 3);
   LblYouveWon->setVisible(true);
   DivisionRowTop = kFirstRowTop;
   if (DivisionCount(1) > 0) {
