@@ -11,7 +11,7 @@
 
 #include "screen/application.h"
 #include "tickets/veridraw7b.h"
-#include "unit/test_support.h"
+#include "unit/screen_fixture.h"
 
 namespace veridraw::testing {
 
@@ -31,8 +31,10 @@ class DrawScreenStandIn : public Form {
   }
 };
 
-class LottoScreen : public ::testing::Test {
+class LottoScreen : public ScreenFixture {
  protected:
+  LottoScreen() : ScreenFixture("Veridraw7b") {}
+
   // Draw 705: 03 08 17 22 39 40, bonus 12.
   static constexpr const char* kDraw705 = "X0308172239401202";
 
@@ -43,11 +45,7 @@ class LottoScreen : public ::testing::Test {
   }
   // A ticket file as the screen writes one, from lines of six pairs.
   void writeTicket(const std::string& number, const std::vector<std::string>& lines) {
-    std::string pairs;
-    for (const std::string& line : lines)
-      pairs += line;
-    dir.write("Lotto # " + number, " " + std::to_string(lines.size()) + " \r\nLotto # " + number +
-                                       "\r\n " + pairs + "\r\n");
+    dir.write("Lotto # " + number, ticketFile("Lotto # " + number, lines));
   }
 
   void open(const std::string& currentDraw = "705") {
@@ -65,25 +63,8 @@ class LottoScreen : public ::testing::Test {
     app->click(app->form("Veridraw7f").control("Btn1Lotto"));
   }
 
-  Form& screen() const { return app->form("Veridraw7b"); }
-  Control& c(const std::string& name) const { return screen().control(name); }
-  Control& c(const std::string& name, int index) const { return screen().control(name, index); }
   std::string text(int cell) const { return c("LineA", cell).text(); }
-  bool hasFocus(const std::string& name, int index = kNotInArray) const {
-    return app->focus() == screen().find(name, index);
-  }
 
-  void click(const std::string& name) { app->click(c(name)); }
-  void pick(const std::string& list, const std::string& item) {
-    const auto& items = c(list).items();
-    const auto found = std::find(items.begin(), items.end(), item);
-    ASSERT_NE(found, items.end()) << item;
-    app->selectItem(c(list), static_cast<int>(found - items.begin()));
-  }
-  void type(const std::string& keys) {
-    for (const char key : keys)
-      app->typeCharacter(key);
-  }
   // The new-ticket road up to the first cell of a ticket of `lines` lines.
   void chooseLines(int lines) {
     click("BtnCheckNewTicket");
@@ -100,10 +81,6 @@ class LottoScreen : public ::testing::Test {
       prompts.push_back(shown.prompt);
     return prompts;
   }
-
-  TemporaryDirectory dir;
-  QueuedDialogs dialogs;
-  std::unique_ptr<Application> app;
 };
 
 }  // namespace veridraw::testing
