@@ -4,6 +4,7 @@
 #include <QImage>
 #include <QPainter>
 #include <QTest>
+#include <cstdint>
 #include <cstdlib>
 
 #include "gui/control_painting.h"
@@ -109,17 +110,32 @@ InputBoxSeen ScreenChecks::pressAndAnswer(Qt::Key key, Qt::KeyboardModifiers mod
   return seen;
 }
 
-DialogAnswer ScreenChecks::answerWarning(const char* cell, int index, WarningSeen& seen) {
-  return DialogAnswer([this, cell, index, &seen](QWidget* dialog) {
+void ScreenChecks::typeRefused(const char* keys, const char* cell, int index,
+                               const QString& message) {
+  QString shown;
+  std::int32_t modelColour = 0;
+  QColor screenColour;
+  MessageBoxSeen seen;
+  const DialogAnswer reply([&](QWidget* dialog) {
     const ControlView& view = *program_->view(cell, index);
-    seen.cellText = view.look().text;
-    seen.modelColour = control(cell, index).backColor();
+    shown = view.look().text;
+    modelColour = control(cell, index).backColor();
     const QImage screen = program_->window()->grab().toImage();
-    seen.screenColour = screen.pixelColor(view.geometry().topLeft() + QPoint(3, 3));
+    screenColour = screen.pixelColor(view.geometry().topLeft() + QPoint(3, 3));
     auto* box = qobject_cast<QMessageBox*>(dialog);
-    seen.box = seenIn(*box);
+    seen = seenIn(*box);
     box->button(QMessageBox::Ok)->click();
   });
+  type(keys);
+  QVERIFY(reply.answered());
+  // The number, two characters and the blank that the cell began with.
+  QCOMPARE(shown, QString(keys).right(2) + " ");
+  QCOMPARE(seen.title, "WARNING");
+  QCOMPARE(seen.text, message);
+  QCOMPARE(seen.icon, QMessageBox::NoIcon);
+  QCOMPARE(seen.buttons, QMessageBox::StandardButtons(QMessageBox::Ok));
+  QCOMPARE(modelColour, 0x0000FF);
+  QCOMPARE(screenColour, QColor(255, 0, 0));
 }
 
 }  // namespace veridraw::gui::testing

@@ -3,11 +3,9 @@
 // and at its view in the real window.
 #pragma once
 
-#include <QColor>
 #include <QPoint>
 #include <QString>
 #include <QStringList>
-#include <cstdint>
 #include <memory>
 
 #include "gui_test_support.h"
@@ -17,14 +15,6 @@ namespace veridraw::gui::testing {
 // Where the draw screen and the ticket screens put their input boxes, 3280 and
 // 2750 twips, in pixels.
 inline const QPoint kInputBoxPlace(219, 183);
-
-// What stood on the screen while a WARNING about a refused number was up.
-struct WarningSeen {
-  MessageBoxSeen box;
-  QString cellText;              // the refused text, as the cell showed it
-  std::int32_t modelColour = 0;  // the cell's BackColor in the model
-  QColor screenColour;           // the colour of the cell inside its border
-};
 
 class ScreenChecks {
  protected:
@@ -48,9 +38,10 @@ class ScreenChecks {
   // `answer`; gives what the box showed.
   InputBoxSeen pressAndAnswer(Qt::Key key, Qt::KeyboardModifiers modifiers, const QString& answer);
 
-  // Waits for the message box about the number typed into the cell, notes in
-  // `seen` what stood while it was up, and answers it with OK.
-  DialogAnswer answerWarning(const char* cell, int index, WarningSeen& seen);
+  // Types `keys` into the cell, the last of which makes a number that is
+  // refused: the message box titled "WARNING", with OK alone, says `message`
+  // while the cell stands red on the screen and shows the number; OK answers it.
+  void typeRefused(const char* keys, const char* cell, int index, const QString& message);
 
   std::unique_ptr<ProgramOnDesktop> program_;
 };
