@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "screen/fatal.h"
+#include "unit/expect_fatal.h"
 #include "unit/test_support.h"
 
 namespace veridraw::store {
@@ -59,12 +59,7 @@ TEST(DrawStore, AMissingDrawFileIsFatal53) {
   dir.write("DrawNumber", "9\r\n");
   SequentialFiles files(dir.path());
   DrawFields draw;
-  try {
-    ReadCurrentDraw(files, draw);
-    FAIL() << "no fatal error";
-  } catch (const FatalError& error) {
-    EXPECT_EQ(error.number(), 53);
-  }
+  EXPECT_EQ(testing::fatalNumberOf([&] { ReadCurrentDraw(files, draw); }), 53);
 }
 
 TEST(DrawStore, ADrawFileOfTwoLinesIsFatal62) {
@@ -73,12 +68,7 @@ TEST(DrawStore, ADrawFileOfTwoLinesIsFatal62) {
   dir.write("9", "9\r\nX0102030405060708\r\n");
   SequentialFiles files(dir.path());
   DrawFields draw;
-  try {
-    ReadCurrentDraw(files, draw);
-    FAIL() << "no fatal error";
-  } catch (const FatalError& error) {
-    EXPECT_EQ(error.number(), 62);
-  }
+  EXPECT_EQ(testing::fatalNumberOf([&] { ReadCurrentDraw(files, draw); }), 62);
 }
 
 TEST(DrawStore, AcceptsNumbersFrom1To1768ByVal) {
