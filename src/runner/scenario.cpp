@@ -254,7 +254,8 @@ std::vector<Control*> Scenario::resolve(const Target& target) const {
 Control& Scenario::resolveOne(const std::string& text) const {
   const Target target = parseTarget(text);
   if (target.indexed && target.first != target.last)
-    throw ScenarioFailure("a range is allowed only in expect: " + text);
+    throw ScenarioFailure("name one control, not a range: " + text +
+                          " (a range serves only expect TARGET.PROPERTY)");
   return *resolve(target).front();
 }
 
