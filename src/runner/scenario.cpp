@@ -201,7 +201,8 @@ Scenario::Target Scenario::parseTarget(std::string_view text) {
   } else {
     target.name = std::string(head);
   }
-  if (target.name.empty()) throw ScenarioFailure("no control named in " + std::string(text));
+  if (target.name.empty() || (dot != std::string_view::npos && target.form.empty()))
+    throw ScenarioFailure("no control named in " + std::string(text));
   if (paren == std::string_view::npos) return target;
   if (text.back() != ')') throw ScenarioFailure("bad target: " + std::string(text));
   const std::string_view inside = text.substr(paren + 1, text.size() - paren - 2);

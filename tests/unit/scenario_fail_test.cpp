@@ -78,6 +78,7 @@ INSTANTIATE_TEST_SUITE_P(
             "ARangePastTheArray", "start\nexpect LineA(29..31).Visible True\n", 2, {"LineA(31)"}},
         FailCase{"AMissingElement", "start\nexpect LineA(0).Visible True\n", 2, {"LineA(0)"}},
         FailCase{"ARangeOutsideExpect", "start\nclick LineA(1..2)\n", 2, {"LineA(1..2)"}},
+        FailCase{"AnEmptyFormName", "start\nexpect .BtnStart.Visible True\n", 2, {".BtnStart"}},
         FailCase{"ARangeForTheFocus",
                  "start\nexpect focus LineA(1..2)\n",
                  2,
