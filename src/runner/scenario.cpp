@@ -89,6 +89,22 @@ std::string stateText(const Application& program) {
   return "";
 }
 
+// A reason fits on the one line of its FAIL: line ends that it quotes from a
+// scenario are written as their escapes.
+std::string oneLine(const std::string& reason) {
+  std::string result;
+  for (const char c : reason) {
+    if (c == '\r') {
+      result += "\\r";
+    } else if (c == '\n') {
+      result += "\\n";
+    } else {
+      result += c;
+    }
+  }
+  return result;
+}
+
 }  // namespace
 
 Scenario::Scenario(std::ostream& out, bool verbose)
@@ -508,9 +524,10 @@ ScenarioResult runScenario(std::istream& in, std::ostream& out, bool verbose) {
     try {
       scenario.runLine(line);
     } catch (const ScenarioFailure& failure) {
-      return {false, number, failure.what()};
+      return {false, number, oneLine(failure.what())};
     } catch (const std::exception& error) {
-      return {false, number, std::string("internal error of the program: ") + error.what()};
+      return {false, number,
+              oneLine(std::string("internal error of the program: ") + error.what())};
     }
   }
   return {};

@@ -91,6 +91,10 @@ INSTANTIATE_TEST_SUITE_P(
                  "start\nexpect Veridraw9.BtnStart.Visible True\n",
                  2,
                  {"Veridraw9"}},
+        FailCase{"AReasonStaysOnOneLine",
+                 "start\nexpect form \"Veridraw7a\\r\\nPASS x\"\n",
+                 2,
+                 {"Veridraw7a\\r\\nPASS x"}},
         FailCase{
             "TheWrongForm", "start\nexpect form Veridraw7d\n", 2, {"Veridraw7d", "Veridraw7a"}},
         FailCase{
