@@ -170,8 +170,10 @@ void Scenario::deleteFile(const Words& words) {
 
 void Scenario::deliver(const Words& words) {
   expectWords(words, 1, "deliver");
-  // A copy, as into any folder: a file of the same name is replaced.
+  // As the run command does, the delivered files never replace a file that is
+  // already there: a draw the user has entered is kept.
   for (const DeliveredFile& file : deliveredFiles()) {
+    if (fs::exists(pathOf(file.name))) continue;
     std::ofstream out(pathOf(file.name), std::ios::binary | std::ios::trunc);
     out << file.content;
     if (!out) throw ScenarioFailure("can't write the file " + quote(file.name));
