@@ -68,7 +68,18 @@ void drawBanknote(QPainter& painter, const QRectF& note) {
   const QRectF oval = centredSquare(inner, inner.height() * 0.08);
   painter.setBrush(kBanknote.lighter(130));
   painter.drawEllipse(oval.adjusted(-oval.width() * 0.2, 0, oval.width() * 0.2, 0));
-  drawFittedText(painter, oval, "$", kBanknote.darker(240), true, 60);
+  // The dollar sign reaches above and below its capitals: it is kept inside the oval.
+  drawFittedText(painter, oval, "$", kBanknote.darker(240), true,
+                 static_cast<int>(oval.height() * 0.7));
+  // Its value in two corners.
+  const QSizeF corner(inner.width() * 0.18, inner.height() * 0.3);
+  const qreal gap = inner.height() * 0.06;
+  drawFittedText(painter, QRectF(inner.topLeft() + QPointF(gap, gap), corner), "100",
+                 kBanknote.darker(200), true, 30);
+  drawFittedText(
+      painter,
+      QRectF(inner.bottomRight() - QPointF(gap + corner.width(), gap + corner.height()), corner),
+      "100", kBanknote.darker(200), true, 30);
   painter.restore();
 }
 
@@ -123,11 +134,15 @@ void paintCoins(QPainter& painter, const QRectF& area) {
   painter.restore();
 }
 
+// A bundle of banknotes: the front one whole, the ones behind it showing
+// only their edges.
 void paintMoney(QPainter& painter, const QRectF& area) {
-  const QRectF note(area.left() + area.width() * 0.04, area.top() + area.height() * 0.08,
-                    area.width() * 0.82, area.height() * 0.6);
-  drawBanknote(painter, note);
-  drawBanknote(painter, note.translated(area.width() * 0.1, area.height() * 0.28));
+  const qreal step = std::max<qreal>(2, area.height() * 0.05);
+  const int notes = 3;
+  const QRectF front(area.left() + step * notes, area.top() + step * notes,
+                     area.width() - step * (notes + 1), area.height() - step * (notes + 1));
+  for (int behind = notes - 1; behind >= 0; --behind)
+    drawBanknote(painter, front.translated(-step * behind, -step * behind));
 }
 
 void paintPlainPanel(QPainter& painter, const QRectF& area) {

@@ -7,6 +7,7 @@
 #include "gui/decor_pictures.h"
 #include "gui/document_pictures.h"
 #include "gui/game_pictures.h"
+#include "gui/ticket_pictures.h"
 
 namespace veridraw::gui {
 
@@ -14,7 +15,7 @@ namespace {
 
 using Painter = void (*)(QPainter&, const QRectF&);
 
-constexpr std::array<std::pair<std::string_view, Painter>, 7> kPictures{{
+constexpr std::array<std::pair<std::string_view, Painter>, 9> kPictures{{
     {"lotto", paintLotto},
     {"strike", paintStrike},
     {"powerball", paintPowerBall},
@@ -22,6 +23,8 @@ constexpr std::array<std::pair<std::string_view, Painter>, 7> kPictures{{
     {"mark", paintMark},
     {"coins", paintCoins},
     {"money", paintMoney},
+    {"lotto-balls", paintDrawMachine},
+    {"lotto-ticket", paintTicketSlip},
 }};
 
 Painter pictureNamed(std::string_view name) {

@@ -1,6 +1,7 @@
 #include "runner/scenario.h"
 
 #include <cctype>
+#include <cmath>
 #include <cstdlib>
 #include <fstream>
 #include <iterator>
@@ -28,12 +29,38 @@ void expectWords(const std::vector<Token>& words, std::size_t count, const char*
   if (words.size() != count) throw ScenarioFailure(std::string("usage: ") + usage);
 }
 
+// The index of an element of a control array: decimal digits, optionally
+// after a minus.
 int parseIndex(std::string_view text) {
-  if (text.empty() || text.size() > 6) throw ScenarioFailure("bad index: " + std::string(text));
-  for (const char c : text)
-    if (!std::isdigit(static_cast<unsigned char>(c)) && c != '-')
+  const std::size_t firstDigit = !text.empty() && text[0] == '-' ? 1 : 0;
+  if (firstDigit >= text.size() || text.size() - firstDigit > 6)
+    throw ScenarioFailure("bad index: " + std::string(text));
+  for (std::size_t i = firstDigit; i < text.size(); ++i)
+    if (!std::isdigit(static_cast<unsigned char>(text[i])))
       throw ScenarioFailure("bad index: " + std::string(text));
   return std::stoi(std::string(text));
+}
+
+// A whole number written as a value: decimal, optionally negative, or 0x hex.
+int parseInteger(const Token& token, const char* what) {
+  const Value value = token.quoted ? Value(token.text) : parseValue(token);
+  const double* number = std::get_if<double>(&value);
+  if (number == nullptr || *number != std::floor(*number) || *number < -2147483648.0 ||
+      *number > 2147483647.0)
+    throw ScenarioFailure(std::string(what) + " wants a whole number, not " +
+                          (token.quoted ? quote(token.text) : token.text));
+  return static_cast<int>(*number);
+}
+
+// A file name in the notation of the scenario language: a word, or a string
+// when it holds blanks or bytes that a word can't.
+std::string nameText(const std::string& name) {
+  if (name.empty()) return quote(name);
+  for (const char c : name) {
+    const auto byte = static_cast<unsigned char>(c);
+    if (byte <= 0x20 || byte >= 0x7F || c == '"' || c == '\\') return quote(name);
+  }
+  return name;
 }
 
 const std::map<std::string, Key>& keyNames() {
@@ -60,6 +87,22 @@ std::string stateText(const Application& program) {
              program.fatalError()->text() + ")";
   }
   return "";
+}
+
+// A reason fits on the one line of its FAIL: line ends that it quotes from a
+// scenario are written as their escapes.
+std::string oneLine(const std::string& reason) {
+  std::string result;
+  for (const char c : reason) {
+    if (c == '\r') {
+      result += "\\r";
+    } else if (c == '\n') {
+      result += "\\n";
+    } else {
+      result += c;
+    }
+  }
+  return result;
 }
 
 }  // namespace
@@ -127,10 +170,13 @@ void Scenario::deleteFile(const Words& words) {
 
 void Scenario::deliver(const Words& words) {
   expectWords(words, 1, "deliver");
+  // As the run command does, the delivered files never replace a file that is
+  // already there: a draw the user has entered is kept.
   for (const DeliveredFile& file : deliveredFiles()) {
     if (fs::exists(pathOf(file.name))) continue;
-    std::ofstream out(pathOf(file.name), std::ios::binary);
+    std::ofstream out(pathOf(file.name), std::ios::binary | std::ios::trunc);
     out << file.content;
+    if (!out) throw ScenarioFailure("can't write the file " + quote(file.name));
   }
 }
 
@@ -173,7 +219,8 @@ Scenario::Target Scenario::parseTarget(std::string_view text) {
   } else {
     target.name = std::string(head);
   }
-  if (target.name.empty()) throw ScenarioFailure("no control named in " + std::string(text));
+  if (target.name.empty() || (dot != std::string_view::npos && target.form.empty()))
+    throw ScenarioFailure("no control named in " + std::string(text));
   if (paren == std::string_view::npos) return target;
   if (text.back() != ')') throw ScenarioFailure("bad target: " + std::string(text));
   const std::string_view inside = text.substr(paren + 1, text.size() - paren - 2);
@@ -226,7 +273,8 @@ std::vector<Control*> Scenario::resolve(const Target& target) const {
 Control& Scenario::resolveOne(const std::string& text) const {
   const Target target = parseTarget(text);
   if (target.indexed && target.first != target.last)
-    throw ScenarioFailure("a range is allowed only in expect: " + text);
+    throw ScenarioFailure("name one control, not a range: " + text +
+                          " (a range serves only expect TARGET.PROPERTY)");
   return *resolve(target).front();
 }
 
@@ -295,10 +343,7 @@ void Scenario::reply(const Words& words) {
     dialogs_.queue(words[1].text);
     return;
   }
-  const Value value = parseValue(words[1]);
-  if (!std::holds_alternative<double>(value))
-    throw ScenarioFailure("reply wants a number or a string");
-  dialogs_.queue(static_cast<int>(std::get<double>(value)));
+  dialogs_.queue(parseInteger(words[1], "reply"));
 }
 
 void Scenario::close(const Words& words) {
@@ -373,7 +418,7 @@ void Scenario::expect(const Words& words) {
                             (program_ ? stateText(*program_) : "not started"));
   } else if (what == "fatal") {
     expectWords(words, 3, "expect fatal N");
-    const int wanted = parseIndex(words[2].text);
+    const int wanted = parseInteger(words[2], "expect fatal");
     if (!program_ || program_->state() != Application::State::Fatal ||
         program_->fatalError()->number() != wanted)
       throw ScenarioFailure("expected fatal error " + std::to_string(wanted) +
@@ -393,10 +438,10 @@ void Scenario::expectDialog(const Words& words) {
   }
   DialogShown wanted;
   if (isMessage) {
-    wanted = MessageBoxShown{words[2].text, parseIndex(words[3].text), words[4].text};
+    wanted = MessageBoxShown{words[2].text, parseInteger(words[3], "BUTTONS"), words[4].text};
   } else {
-    wanted = InputBoxShown{words[2].text, words[3].text, words[4].text, parseIndex(words[5].text),
-                           parseIndex(words[6].text)};
+    wanted = InputBoxShown{words[2].text, words[3].text, words[4].text, parseInteger(words[5], "X"),
+                           parseInteger(words[6], "Y")};
   }
   DialogShown found;
   if (!dialogs_.takeUnchecked(found))
@@ -444,7 +489,8 @@ void Scenario::print(const Words& words) {
   if (what == "focus") {
     out_ << "focus " << focusName() << "\n";
   } else if (what == "form") {
-    out_ << "form " << formOf(Target{}).name() << "\n";
+    const bool onScreen = program_ && program_->running() && program_->activeForm() != nullptr;
+    out_ << "form " << (onScreen ? program_->activeForm()->name() : "none") << "\n";
   } else if (what == "items") {
     expectWords(words, 3, "print items TARGET");
     Control& list = resolveOne(words[2].text);
@@ -456,10 +502,11 @@ void Scenario::print(const Words& words) {
     out_ << "\n";
   } else if (what == "file") {
     expectWords(words, 3, "print file NAME");
-    if (fs::is_regular_file(pathOf(words[2].text))) {
-      out_ << "file " << words[2].text << " " << quote(fileContent(words[2].text)) << "\n";
+    const std::string& name = words[2].text;
+    if (fs::is_regular_file(pathOf(name))) {
+      out_ << "file " << nameText(name) << " " << quote(fileContent(name)) << "\n";
     } else {
-      out_ << "nofile " << words[2].text << "\n";
+      out_ << "nofile " << nameText(name) << "\n";
     }
   } else {
     expectWords(words, 2, "print TARGET.PROPERTY");
@@ -474,12 +521,15 @@ ScenarioResult runScenario(std::istream& in, std::ostream& out, bool verbose) {
   int number = 0;
   while (std::getline(in, line)) {
     ++number;
+    // A byte order mark, as some editors put at the start of a text file.
+    if (number == 1 && line.rfind("\xEF\xBB\xBF", 0) == 0) line.erase(0, 3);
     try {
       scenario.runLine(line);
     } catch (const ScenarioFailure& failure) {
-      return {false, number, failure.what()};
+      return {false, number, oneLine(failure.what())};
     } catch (const std::exception& error) {
-      return {false, number, std::string("internal error of the program: ") + error.what()};
+      return {false, number,
+              oneLine(std::string("internal error of the program: ") + error.what())};
     }
   }
   return {};

@@ -80,22 +80,31 @@ const std::map<std::string, PropertyReader>& propertyTable() {
   return table;
 }
 
-bool parseNumber(const std::string& text, double& result) {
-  // Digits first, after an optional minus: no "nan", "inf" or "+1".
-  const std::size_t firstDigit = !text.empty() && text[0] == '-' ? 1 : 0;
-  if (firstDigit >= text.size() || !std::isdigit(static_cast<unsigned char>(text[firstDigit])))
-    return false;
-  std::size_t used = 0;
-  try {
-    if (text.size() > 2 && text[0] == '0' && (text[1] == 'x' || text[1] == 'X')) {
-      result = static_cast<double>(std::stoll(text.substr(2), &used, 16));
-      return used == text.size() - 2;
-    }
-    result = std::stod(text, &used);
-    return used == text.size();
-  } catch (const std::exception&) {
-    return false;
+bool isDigits(const std::string& text, std::size_t from, std::size_t to, int base) {
+  if (from >= to) return false;
+  for (std::size_t i = from; i < to; ++i) {
+    const auto c = static_cast<unsigned char>(text[i]);
+    if (base == 16 ? !std::isxdigit(c) : !std::isdigit(c)) return false;
   }
+  return true;
+}
+
+// An integer in decimal, optionally negative, or in hexadecimal after "0x"; a
+// decimal may carry a fraction, as a font size of 8.25 does.
+bool parseNumber(const std::string& text, double& result) {
+  if (text.size() > 2 && text[0] == '0' && (text[1] == 'x' || text[1] == 'X')) {
+    if (text.size() > 10 || !isDigits(text, 2, text.size(), 16)) return false;
+    result = static_cast<double>(std::stoull(text.substr(2), nullptr, 16));
+    return true;
+  }
+  const std::size_t firstDigit = !text.empty() && text[0] == '-' ? 1 : 0;
+  const std::size_t point = text.find('.');
+  const std::size_t wholeEnd = point == std::string::npos ? text.size() : point;
+  if (!isDigits(text, firstDigit, wholeEnd, 10)) return false;
+  if (point != std::string::npos && !isDigits(text, point + 1, text.size(), 10)) return false;
+  if (wholeEnd - firstDigit > 15) return false;
+  result = std::stod(text);
+  return true;
 }
 
 }  // namespace

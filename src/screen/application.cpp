@@ -133,7 +133,7 @@ void Application::moveFocus(Form& form, Control* from, bool backwards) {
 void Application::click(Control& control) {
   dispatch([&] {
     if (!control.visible() || !control.enabled()) return;
-    if (control.canTakeFocus()) control.form().setFocusPointer(&control);
+    if (control.canTakeFocus() && control.focusOnClick()) control.form().setFocusPointer(&control);
     if (control.kind() != ControlKind::TextBox && control.kind() != ControlKind::ListBox)
       control.form().raise(Event::Click, control);
   });

@@ -46,7 +46,8 @@ Control::Control(Form& form, const ControlDesign& design)
       width_(design.width),
       height_(design.height),
       alignment_(design.alignment),
-      picture_(design.picture) {}
+      picture_(design.picture),
+      focusOnClick_(design.focusOnClick) {}
 
 std::string Control::displayName() const {
   return isArrayElement() ? name_ + "(" + std::to_string(index_) + ")" : name_;

@@ -68,6 +68,7 @@ class Control {
   const std::string& toolTipText() const { return toolTip_; }
   Alignment alignment() const { return alignment_; }
   const std::string& picture() const { return picture_; }
+  bool focusOnClick() const { return focusOnClick_; }
 
   // SetFocus: the control must be visible and enabled, or fatal error 5.
   void SetFocus();
@@ -118,6 +119,7 @@ class Control {
   int left_, top_, width_, height_;
   Alignment alignment_;
   std::string picture_;
+  bool focusOnClick_;
   std::vector<std::string> items_;
   int listIndex_ = -1;
   int topIndex_ = 0;

@@ -50,7 +50,8 @@ struct ControlDesign {
   int tabIndex = kDefault;     // kDefault: after the explicit ones, in table order
   int borderStyle = kDefault;  // kDefault: 1 for text boxes, 0 for the rest
   Alignment alignment = Alignment::Left;
-  std::string picture;  // the name of the drawing on an image or a picture button
+  std::string picture;       // the name of the drawing on an image or a picture button
+  bool focusOnClick = true;  // false: a click leaves the focus where it is
 
   // Modifiers, so that a design table reads one control to a line.
   ControlDesign&& at(int element) && { return index = element, std::move(*this); }
@@ -65,6 +66,12 @@ struct ControlDesign {
   ControlDesign&& hidden() && { return visible = false, std::move(*this); }
   ControlDesign&& lockedBox() && { return locked = true, std::move(*this); }
   ControlDesign&& noTabStop() && { return tabStop = false, std::move(*this); }
+  // A picture that only looks like a button: a click on it changes nothing at all.
+  ControlDesign&& inert() && {
+    focusOnClick = false;
+    tabStop = false;
+    return std::move(*this);
+  }
   ControlDesign&& tab(int value) && { return tabIndex = value, std::move(*this); }
   ControlDesign&& border(int value) && { return borderStyle = value, std::move(*this); }
   ControlDesign&& centred() && { return alignment = Alignment::Center, std::move(*this); }

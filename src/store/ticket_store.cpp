@@ -22,7 +22,7 @@ void SaveTicket(SequentialFiles& files, TicketFields& ticket, const std::string&
                 const CellText& cellText, PowerBallColumn* powerBall) {
   ticket.TicketFileName = prefix + numberText;
   ticket.TicketNumberText = ticket.TicketFileName;
-  ticket.TicketLineText = " ";
+  ticket.TicketLineText.assign(1, ' ');  // a single blank
   const int cells = LineCount * cellsPerLine;
   for (int cell = 1; cell <= cells; ++cell)
     ticket.TicketLineText += Left(cellText(cell), 2);

@@ -2,44 +2,17 @@
 // start screen: the draw number asked in the real input box, the numbers typed
 // key by key into the window, the space bar that steps back, a refused number,
 // the confirmation, and the draw files that it writes.
-#include <QAbstractButton>
-#include <QImage>
-#include <QPainter>
-#include <QStringList>
 #include <QTest>
 
-#include "gui/control_painting.h"
 #include "gui_test_support.h"
+#include "screen_checks.h"
 #include "shell/program.h"
 
 using namespace veridraw;
 using namespace veridraw::gui;
 using namespace veridraw::gui::testing;
 
-namespace {
-
-// Where the logic puts the input box for the draw number: 3280, 2750 twips.
-const QPoint kInputBoxPlace(219, 183);
-
-// How a view looks when the focus isn't on it.
-QImage paintedWithoutFocus(const ControlView& view) {
-  QImage image(view.size(), QImage::Format_RGB32);
-  ControlLook look = view.look();
-  look.focused = false;
-  QPainter painter(&image);
-  paintControl(painter, image.rect(), look, false);
-  return image;
-}
-
-// Whether the view, as it stands on the screen, shows the focus: its caret or
-// the frame of the button that Enter presses.
-bool showsFocus(ControlView& view) {
-  return view.grab().toImage().convertToFormat(QImage::Format_RGB32) != paintedWithoutFocus(view);
-}
-
-}  // namespace
-
-class DrawScreenTest : public QObject {
+class DrawScreenTest : public QObject, public ScreenChecks {
   Q_OBJECT
 
  private slots:
@@ -70,7 +43,7 @@ class DrawScreenTest : public QObject {
   }
 
   void aLottoDrawIsTypedCorrectedWithTheSpaceBarAndSaved() {
-    const InputBoxSeen asked = askForDraw(Qt::Key_Return, {}, "12");
+    const InputBoxSeen asked = pressAndAnswer(Qt::Key_Return, {}, "12");
     QCOMPARE(asked.title, "Draw Number");
     QCOMPARE(asked.prompt, "Enter the Draw Number");
     QCOMPARE(asked.start, "");
@@ -125,7 +98,7 @@ class DrawScreenTest : public QObject {
   }
 
   void numbersOutOfOrderShowTheSortedRow() {
-    askForDraw(Qt::Key_L, Qt::AltModifier, "1200");
+    pressAndAnswer(Qt::Key_L, Qt::AltModifier, "1200");
     type("4002030405060708");
     expectShown("LblNumericOrder", true);
     expectCellsShown("TxtDrawnNumeric", 6, true);
@@ -140,29 +113,9 @@ class DrawScreenTest : public QObject {
   }
 
   void aNumberOutOfRangeIsRefusedWhileItsCellIsRed() {
-    askForDraw(Qt::Key_Return, {}, "1200");
+    pressAndAnswer(Qt::Key_Return, {}, "1200");
     type("0102");
-    QColor seenOnScreen;
-    std::int32_t seenInModel = 0;
-    MessageBoxSeen seen;
-    const DialogAnswer reply([&](QWidget* dialog) {
-      const ControlView& cell = *program_->view("TxtDrawnNumbers", 3);
-      seenInModel = control("TxtDrawnNumbers", 3).backColor();
-      const QImage screen = program_->window()->grab().toImage();
-      seenOnScreen = screen.pixelColor(cell.geometry().topLeft() + QPoint(3, 3));
-      QCOMPARE(cell.look().text, "41 ");
-      auto* box = qobject_cast<QMessageBox*>(dialog);
-      seen = {box->windowTitle(), box->text(), box->icon(), box->standardButtons()};
-      box->button(QMessageBox::Ok)->click();
-    });
-    type("41");
-    QVERIFY(reply.answered());
-    QCOMPARE(seen.title, "WARNING");
-    QCOMPARE(seen.text, "You Must enter a Number between 1 and 40");
-    QCOMPARE(seen.icon, QMessageBox::NoIcon);
-    QCOMPARE(seen.buttons, QMessageBox::StandardButtons(QMessageBox::Ok));
-    QCOMPARE(seenInModel, 0x0000FF);
-    QCOMPARE(seenOnScreen, QColor(255, 0, 0));
+    typeRefused("41", "TxtDrawnNumbers", 3, "You Must enter a Number between 1 and 40");
 
     expectCells("TxtDrawnNumbers", {"01 ", "02 ", " ", " ", " ", " ", " ", " "});
     expectFocus("TxtDrawnNumbers", 3);
@@ -173,12 +126,12 @@ class DrawScreenTest : public QObject {
   }
 
   void strikeNumbersJoinTheLottoLineInTheSameFile() {
-    askForDraw(Qt::Key_Return, {}, "1200");
+    pressAndAnswer(Qt::Key_Return, {}, "1200");
     type("0102030405060708");
     confirm("1200", "1200\r\nX0102030405060708\r\n\r\n");
 
     // With the Lotto line in hand, no overwrite question comes.
-    const InputBoxSeen asked = askForDraw(Qt::Key_S, Qt::AltModifier, "1200");
+    const InputBoxSeen asked = pressAndAnswer(Qt::Key_S, Qt::AltModifier, "1200");
     QCOMPARE(asked.title, "Draw Number");
     QCOMPARE(asked.place, kInputBoxPlace);
     expectShown("LblDrawnOrder2", true);
@@ -201,55 +154,6 @@ class DrawScreenTest : public QObject {
   }
 
  private:
-  Control& control(const char* name, int index = kNotInArray) const {
-    return program_->application().activeForm()->control(name, index);
-  }
-
-  void type(const char* keys) { QTest::keyClicks(program_->window(), keys); }
-
-  // Presses the key that starts an entry and answers its input box with `draw`.
-  InputBoxSeen askForDraw(Qt::Key key, Qt::KeyboardModifiers modifiers, const QString& draw) {
-    InputBoxSeen seen;
-    const DialogAnswer reply = answerInputBox(draw, seen);
-    QTest::keyClick(program_->window(), key, modifiers);
-    if (!reply.answered()) QTest::qFail("no input box came up", __FILE__, __LINE__);
-    return seen;
-  }
-
-  void expectText(const char* name, const char* text, int index = kNotInArray) {
-    QCOMPARE(control(name, index).text(), text);
-    QCOMPARE(program_->view(name, index)->look().text, text);
-  }
-
-  // The texts of the elements 1 and on of a control array, in the model and on the screen.
-  void expectCells(const char* name, const QStringList& texts) {
-    for (int index = 1; index <= texts.size(); ++index) {
-      const QByteArray text = texts[index - 1].toLatin1();
-      QCOMPARE(control(name, index).text(), text.toStdString());
-      QCOMPARE(program_->view(name, index)->look().text, texts[index - 1]);
-    }
-  }
-
-  void expectShown(const char* name, bool shown, int index = kNotInArray) {
-    QCOMPARE(control(name, index).visible(), shown);
-    QCOMPARE(program_->view(name, index)->isVisible(), shown);
-  }
-
-  void expectCellsShown(const char* name, int count, bool shown) {
-    for (int index = 1; index <= count; ++index)
-      expectShown(name, shown, index);
-  }
-
-  // The focus is on this control in the model, and on its view alone on the screen.
-  void expectFocus(const char* name, int index = kNotInArray) {
-    QCOMPARE(program_->application().focus(), &control(name, index));
-    for (ControlView* view : program_->window()->views()) {
-      const bool focused = view->controlName() == name && view->controlIndex() == index;
-      QCOMPARE(view->look().focused, focused);
-      if (focused) QVERIFY(showsFocus(*view));
-    }
-  }
-
   // Enter presses the Yes button that has the focus: the draw becomes the
   // current one, and its file holds `content` byte for byte.
   void confirm(const std::string& draw, const std::string& content) {
@@ -268,8 +172,6 @@ class DrawScreenTest : public QObject {
     expectShown(no, true);
     expectFocus(yes);
   }
-
-  std::unique_ptr<ProgramOnDesktop> program_;
 };
 
 QTEST_MAIN(DrawScreenTest)

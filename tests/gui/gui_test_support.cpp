@@ -49,6 +49,23 @@ ControlView* ProgramOnDesktop::view(std::string_view name, int index) const {
   return window() != nullptr ? window()->view(name, index) : nullptr;
 }
 
+void makeDraw705Current(ProgramOnDesktop& program) {
+  program.writeFile("DrawNumber", "705\r\n");
+  program.writeFile("705", "705\r\nX0308172239401202\r\nZ17033908\r\n");
+}
+
+void openTicketScreen(ProgramOnDesktop& program, std::string_view gameButton) {
+  program.start(kFirstForm);
+  QTest::keyClick(program.window(), Qt::Key_Return);
+  QTest::keyClick(program.window(), Qt::Key_Y, Qt::AltModifier);
+  ControlView* button = program.view(gameButton);
+  if (button == nullptr || !button->isVisible()) {
+    QTest::qFail("the game's button isn't on the screen", __FILE__, __LINE__);
+    return;
+  }
+  QTest::mouseClick(button, Qt::LeftButton, {}, middleOf(*button));
+}
+
 int visibleFormWindows() {
   int visible = 0;
   for (QWidget* widget : QApplication::topLevelWidgets())
@@ -68,10 +85,14 @@ DialogAnswer::DialogAnswer(std::function<void(QWidget* dialog)> handle)
   timer_.start(kPollMilliseconds);
 }
 
+MessageBoxSeen seenIn(const QMessageBox& box) {
+  return {box.windowTitle(), box.text(), box.icon(), box.standardButtons()};
+}
+
 DialogAnswer answerMessageBox(QMessageBox::StandardButton button, MessageBoxSeen& seen) {
   return DialogAnswer([&seen, button](QWidget* dialog) {
     auto* box = qobject_cast<QMessageBox*>(dialog);
-    seen = {box->windowTitle(), box->text(), box->icon(), box->standardButtons()};
+    seen = seenIn(*box);
     box->button(button)->click();
   });
 }

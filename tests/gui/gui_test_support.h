@@ -47,6 +47,15 @@ class ProgramOnDesktop {
   Desktop desktop_;
 };
 
+// Makes draw 705 the current draw: Lotto 3 8 17 22 39 40, bonus 12,
+// PowerBall 2; Strike 17 3 39 8.
+void makeDraw705Current(ProgramOnDesktop& program);
+
+// From the start screen through the draw screen to a ticket screen, through
+// the real widgets: Enter, Alt+Y (Check Your Tickets) and a click on the
+// picture button of the game.
+void openTicketScreen(ProgramOnDesktop& program, std::string_view gameButton);
+
 // The top-level windows of forms that are visible now.
 int visibleFormWindows();
 
@@ -73,6 +82,9 @@ struct MessageBoxSeen {
   QMessageBox::Icon icon = QMessageBox::NoIcon;
   QMessageBox::StandardButtons buttons;
 };
+
+// What the message box shows.
+MessageBoxSeen seenIn(const QMessageBox& box);
 
 // Waits for a message box, notes in `seen` what it shows, and presses `button`.
 DialogAnswer answerMessageBox(QMessageBox::StandardButton button, MessageBoxSeen& seen);

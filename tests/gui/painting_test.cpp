@@ -189,8 +189,8 @@ class PaintingTest : public QObject {
     const QImage unknown = picture("no-such-picture", size);
     QVERIFY(colourCount(unknown) > 10);
     for (const char* name :
-         {"notice", "mark", "coins", "money", "document-lotto", "document-strike",
-          "document-powerball", "document-notes", "document-contact"}) {
+         {"notice", "mark", "coins", "money", "lotto-balls", "lotto-ticket", "document-lotto",
+          "document-strike", "document-powerball", "document-notes", "document-contact"}) {
       const QImage image = picture(name, size);
       QVERIFY2(colourCount(image) > 10, name);
       QVERIFY2(!differingRows(image, unknown).isEmpty(), name);

@@ -1,6 +1,6 @@
-// Renders the start, readme and draw screens of the real program, and a test
-// form with a control of every kind, to PNG files in the test's directory,
-// screens/, for the README and for a look by eye.
+// Renders the start, readme, draw and Lotto screens of the real program, and
+// a test form with a control of every kind, to PNG files in the test's
+// directory, screens/, for the README and for a look by eye.
 #include <QDir>
 #include <QImage>
 #include <QSet>
@@ -17,8 +17,26 @@ using namespace veridraw::gui::testing;
 
 namespace {
 
-// The draw screen is 11880 x 8595 twips, a little smaller than the start screen.
+// The draw screen is 11880 x 8595 twips, a little smaller than the start
+// screen, and so are the ticket screens.
 const QSize kDrawScreenSize(792, 573);
+
+// The Lotto screen, with draw 705 as the current draw, ready for a ticket of
+// four lines: Alt+N (Check New Ticket) and Alt+D (Line D).
+void startALottoTicket(ProgramOnDesktop& program) {
+  makeDraw705Current(program);
+  openTicketScreen(program, "Btn1Lotto");
+  QCOMPARE(program.window()->form().name(), "Veridraw7b");
+  QTest::keyClick(program.window(), Qt::Key_N, Qt::AltModifier);
+  QTest::keyClick(program.window(), Qt::Key_D, Qt::AltModifier);
+}
+
+// A ticket of four lines: Division 2, Division 3, Division 5 and nothing.
+constexpr const char* kLottoTicket =
+    "030812172239"
+    "030817222540"
+    "010308121733"
+    "040812223538";
 
 }  // namespace
 
@@ -58,6 +76,31 @@ class ScreenshotTest : public QObject {
     QTest::keyClicks(program.window(), "1705214");
     QCOMPARE(program.view("TxtDrawnNumbers", 4)->look().text, "4 ");
     saveAndCheck(*program.window(), "screens/draw-entry.png", kDrawScreenSize);
+  }
+
+  void lottoScreen() {
+    ProgramOnDesktop program;
+    makeDraw705Current(program);
+    openTicketScreen(program, "Btn1Lotto");
+    QCOMPARE(program.window()->form().name(), "Veridraw7b");
+    saveAndCheck(*program.window(), "screens/lotto.png", kDrawScreenSize);
+  }
+
+  void lottoScreenDuringATicket() {
+    ProgramOnDesktop program;
+    startALottoTicket(program);
+    QTest::keyClicks(program.window(), QByteArray(kLottoTicket).left(15));
+    QCOMPARE(program.view("LineA", 8)->look().text, "0 ");
+    saveAndCheck(*program.window(), "screens/lotto-entry.png", kDrawScreenSize);
+  }
+
+  void lottoScreenWithItsOutcome() {
+    ProgramOnDesktop program;
+    startALottoTicket(program);
+    QTest::keyClicks(program.window(), kLottoTicket);
+    QTest::keyClick(program.window(), Qt::Key_C, Qt::AltModifier);
+    QVERIFY(program.view("LblYouveWon")->isVisible());
+    saveAndCheck(*program.window(), "screens/lotto-outcome.png", kDrawScreenSize);
   }
 
   void everyKindOfControl() {

@@ -126,7 +126,9 @@ TEST_F(LottoSaved, ClickingATicketLoadsItAndComparesItWithTheDrawOnDisplay) {
   EXPECT_EQ(c("IntResult", 7).text(), " ");
   for (int cell = 1; cell <= 84; ++cell) {
     EXPECT_EQ(c("LineA", cell).visible(), cell <= 24) << cell;
-    if (cell <= 24) EXPECT_EQ(c("LineA", cell).backColor(), colors::kPaleYellow) << cell;
+    if (cell <= 24) {
+      EXPECT_EQ(c("LineA", cell).backColor(), colors::kPaleYellow) << cell;
+    }
   }
   for (int line = 1; line <= 14; ++line) {
     EXPECT_EQ(c("TextATxt", line).visible(), line <= 4) << line;

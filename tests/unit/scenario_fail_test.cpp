@@ -78,6 +78,11 @@ INSTANTIATE_TEST_SUITE_P(
             "ARangePastTheArray", "start\nexpect LineA(29..31).Visible True\n", 2, {"LineA(31)"}},
         FailCase{"AMissingElement", "start\nexpect LineA(0).Visible True\n", 2, {"LineA(0)"}},
         FailCase{"ARangeOutsideExpect", "start\nclick LineA(1..2)\n", 2, {"LineA(1..2)"}},
+        FailCase{"AnEmptyFormName", "start\nexpect .BtnStart.Visible True\n", 2, {".BtnStart"}},
+        FailCase{"ARangeForTheFocus",
+                 "start\nexpect focus LineA(1..2)\n",
+                 2,
+                 {"LineA(1..2)", "one control"}},
         FailCase{"AFormNotLoaded",
                  "start\nexpect Veridraw7d.BtnStart.Visible True\n",
                  2,
@@ -86,6 +91,10 @@ INSTANTIATE_TEST_SUITE_P(
                  "start\nexpect Veridraw9.BtnStart.Visible True\n",
                  2,
                  {"Veridraw9"}},
+        FailCase{"AReasonStaysOnOneLine",
+                 "start\nexpect form \"Veridraw7a\\r\\nPASS x\"\n",
+                 2,
+                 {"Veridraw7a\\r\\nPASS x"}},
         FailCase{
             "TheWrongForm", "start\nexpect form Veridraw7d\n", 2, {"Veridraw7d", "Veridraw7a"}},
         FailCase{
@@ -154,6 +163,108 @@ INSTANTIATE_TEST_SUITE_P(
                  2,
                  {"705", "\"705\\r\\n\""}},
         FailCase{"AFileNameWithAFolder", "file sub/x \"\"\n", 1, {"sub/x"}}),
+    byName);
+
+// The draw screen with the delivered draw, ready for a click that asks a question.
+const std::string kDrawScreen = "deliver\nstart\nkey Enter\n";
+const std::string kOverwriteQuestion =
+    R"(msgbox "Numbers already exist for this Draw    OverWrite?  Yes/No" 52 "DRAW ALERT")";
+const std::string kDrawNumberPrompt =
+    R"(inputbox "Enter the Draw Number" "Draw Number" "" 3280 2750)";
+
+INSTANTIATE_TEST_SUITE_P(
+    Replies, ScenarioFails,
+    ::testing::Values(
+        FailCase{"NoReplyForAnInputBox",
+                 kDrawScreen + "click BtnEnterLottoDrawNumbers\nexpect running\n",
+                 4,
+                 {kDrawNumberPrompt, "no reply"}},
+        FailCase{"AButtonForAnInputBox",
+                 kDrawScreen + "reply 6\nclick BtnEnterLottoDrawNumbers\n",
+                 5,
+                 {kDrawNumberPrompt, "message box"}},
+        FailCase{"NoReplyForAMessageBox",
+                 kDrawScreen + "reply \"1105\"\nclick BtnEnterLottoDrawNumbers\n",
+                 5,
+                 {kOverwriteQuestion, "no reply"}},
+        FailCase{"ATextForAMessageBox",
+                 kDrawScreen + "reply \"1105\"\nreply \"Yes\"\nclick BtnEnterLottoDrawNumbers\n",
+                 6,
+                 {kOverwriteQuestion, "input box"}},
+        FailCase{"AReplyThatIsNoWholeNumber", "reply 1.5\n", 1, {"1.5"}}),
+    byName);
+
+INSTANTIATE_TEST_SUITE_P(
+    DialogChecks, ScenarioFails,
+    ::testing::Values(
+        FailCase{"AnotherDialogThanTheOldest",
+                 kDrawScreen + "reply \"\"\nclick BtnEnterLottoDrawNumbers\n" +
+                     "expect msgbox \"Enter the Draw Number\" 0 \"Draw Number\"\n",
+                 6,
+                 {"msgbox \"Enter the Draw Number\" 0 \"Draw Number\"", kDrawNumberPrompt}},
+        FailCase{"AnInputBoxAtAnotherPlace",
+                 kDrawScreen + "reply \"\"\nclick BtnEnterLottoDrawNumbers\n" +
+                     "expect inputbox \"Enter the Draw Number\" \"Draw Number\" \"\" 3280 2700\n",
+                 6,
+                 {"2700", kDrawNumberPrompt}},
+        FailCase{"ADialogLeftUnchecked",
+                 kDrawScreen + "reply \"\"\nclick BtnEnterLottoDrawNumbers\nexpect nodialog\n",
+                 6,
+                 {"no unchecked dialog", kDrawNumberPrompt}},
+        FailCase{"ADialogCheckedTwice",
+                 kDrawScreen + "reply \"\"\nclick BtnEnterLottoDrawNumbers\nexpect " +
+                     kDrawNumberPrompt + "\nexpect " + kDrawNumberPrompt + "\n",
+                 7,
+                 {kDrawNumberPrompt, "no unchecked dialog"}},
+        FailCase{"AFatalErrorIsNoDialog",
+                 "start\nkey Enter\nexpect msgbox \"File not found\" 0 \"Veridraw\"\n",
+                 3,
+                 {"File not found", "no unchecked dialog"}},
+        FailCase{"ButtonsThatAreNoNumber",
+                 kDrawScreen + "reply \"\"\nclick BtnEnterLottoDrawNumbers\n" +
+                     "expect msgbox \"x\" OK \"y\"\n",
+                 6,
+                 {"OK"}}),
+    byName);
+
+INSTANTIATE_TEST_SUITE_P(
+    MoreChecks, ScenarioFails,
+    ::testing::Values(
+        FailCase{"AFatalErrorOfAnotherNumber",
+                 "start\nkey Enter\nexpect fatal 62\n",
+                 3,
+                 {"62", "53", "File not found"}},
+        FailCase{
+            "EndedAfterAFatalError", "start\nkey Enter\nexpect ended\n", 3, {"fatal error 53"}},
+        FailCase{"AFatalNumberThatIsNoNumber", "start\nkey Enter\nexpect fatal x\n", 3, {"x"}},
+        FailCase{"AnItemThatIsntInTheList",
+                 kDrawScreen + "click List1 \"999\"\n",
+                 4,
+                 {"List1", "\"999\""}},
+        FailCase{"OtherItems",
+                 kDrawScreen + "expect items List1 \"1105\" \"12\"\n",
+                 4,
+                 {"\"1105\" \"12\"", "found \"1105\""}},
+        FailCase{"ItemsOfAnEmptyList",
+                 kDrawScreen + "expect items LstLottoTicket \"1\"\n",
+                 4,
+                 {"\"1\"", "(none)"}},
+        FailCase{"ATextThatIsnt", kDrawScreen + "expect TxtDrawBox.Text 705\n", 4, {"705", "1105"}},
+        FailCase{
+            "AStringForANumber", "start\nexpect BtnStart.Left \"5880\"\n", 2, {"\"5880\"", "5880"}},
+        FailCase{"ForeColorOfAButton", "start\nexpect BtnStart.ForeColor 0\n", 2, {"ForeColor"}},
+        FailCase{"TabStopOfALabel", "start\nexpect Label2.TabStop False\n", 2, {"TabStop"}},
+        FailCase{"CaptionOfATextBox", "start\nexpect LineA(1).Caption \"01\"\n", 2, {"Caption"}},
+        FailCase{"CaptionOfADocument", "start\nexpect OLE1.Caption \"\"\n", 2, {"OLE1", "Caption"}},
+        FailCase{"ListCountOfALabel", "start\nexpect Label2.ListCount 0\n", 2, {"ListCount"}},
+        FailCase{"ItemsOfALabel", "start\nexpect items Label2\n", 2, {"Label2", "list box"}},
+        FailCase{"ANameIndexedThatIsNoArray",
+                 "start\nexpect BtnStart(1).Visible True\n",
+                 2,
+                 {"BtnStart(1)"}},
+        FailCase{"AnIndexThatIsNoNumber", "start\nexpect LineA(1-2).Visible True\n", 2, {"1-2"}},
+        FailCase{
+            "AFocusOnAFormThatIsGone", "start\nkey Alt+X\nexpect focus BtnStart\n", 3, {"ended"}}),
     byName);
 
 INSTANTIATE_TEST_SUITE_P(

@@ -89,10 +89,6 @@ expect focus CmdReadme
 key Tab
 expect focus CmdForm1Exit
 key Tab
-key Tab
-key Tab
-key Tab
-key Tab
 expect focus BtnStart
 key Tab
 key Space
@@ -149,6 +145,150 @@ expect running
 )"}),
     [](const auto& info) { return info.param.name; });
 
+INSTANTIATE_TEST_SUITE_P(
+    UserActions, ScenarioPasses,
+    ::testing::Values(PassCase{"EveryKeyNameIsAKey", R"(start
+key Escape
+key Backspace
+key Delete
+key Home
+key End
+expect focus BtnStart
+expect form Veridraw7a
+key Right
+expect focus CmdReadme
+key Left
+expect focus BtnStart
+key Tab
+key Space
+expect form Veridraw7d
+key Enter
+expect form Veridraw7a
+key Alt+r
+expect form Veridraw7d
+key Alt+S
+expect form Veridraw7a
+)"},
+                      PassCase{"TypedControlCharactersAreTheirKeys", R"(start
+type "\t"
+expect focus CmdReadme
+type "\r"
+expect form Veridraw7d
+type "\t\t"
+expect focus BtnStart
+type " "
+expect form Veridraw7a
+type "x1"
+expect form Veridraw7a
+expect focus BtnStart
+type ""
+expect nodialog
+)"},
+                      PassCase{"ClicksOnLabelsAndDocumentsDoNothing", R"(start
+click Label2
+click Label6
+click OLE1
+click OLE8
+expect focus BtnStart
+expect form Veridraw7a
+expect running
+expect nodialog
+)"},
+                      PassCase{"AClickGivesAVisibleTextBoxTheFocus", R"(start
+key Alt+R
+key Alt+D
+expect Text2.Visible True
+click Text2
+expect focus Text2
+key Tab
+expect focus BtnStart
+)"},
+                      PassCase{"AListItemIsAWordOrAString", R"(deliver
+start
+key Enter
+expect items List1 1105
+expect items List1 "1105"
+expect items LstLottoTicket
+expect List1.ListCount 1
+expect List1.ListIndex -1
+expect List1.Text ""
+click List1 1105
+expect focus List1
+expect List1.Text "1105"
+expect List1.ListIndex 0
+expect List1.TopIndex 0
+click List1 "1105"
+expect file DrawNumber "1105\r\n"
+)"},
+                      PassCase{"FileNamesWithBlanksInQuotes", R"(file "Lotto # 7" "x"
+expect file "Lotto # 7" "x"
+expect nofile Lotto
+delete "Lotto # 7"
+expect nofile "Lotto # 7"
+)"},
+                      PassCase{"AByteOrderMarkBeforeTheFirstLine",
+                               "\xEF\xBB\xBF# written by an editor that marks its files\nstart\n"
+                               "expect form Veridraw7a\n"}),
+    [](const auto& info) { return info.param.name; });
+
+INSTANTIATE_TEST_SUITE_P(
+    Checks, ScenarioPasses,
+    ::testing::Values(PassCase{"ATextComparesWithANumberWrittenAlike", R"(deliver
+start
+key Enter
+expect TxtDrawBox.Text 1105
+expect TxtDrawBox.Text "1105"
+)"},
+                      PassCase{"IntegersOfDialogsAndFatalErrorsMayBeHex", R"(deliver
+start
+key Enter
+reply "1105"
+reply 7
+click BtnEnterLottoDrawNumbers
+expect inputbox "Enter the Draw Number" "Draw Number" "" 0xCD0 2750
+expect msgbox "Numbers already exist for this Draw    OverWrite?  Yes/No" 0x34 "DRAW ALERT"
+expect nodialog
+delete DrawNumber
+click BtnRestart
+key Enter
+expect fatal 0x35
+)"},
+                      PassCase{"DialogsShownBeforeAFatalErrorAreStillChecked", R"(deliver
+start
+key Enter
+reply ""
+click BtnEnterLottoDrawNumbers
+delete DrawNumber
+click BtnRestart
+expect form Veridraw7a
+key Enter
+expect fatal 53
+expect inputbox "Enter the Draw Number" "Draw Number" "" 3280 2750
+expect nodialog
+)"},
+                      PassCase{"PropertiesOfEachKind", R"(start
+expect BtnStart.Enabled True
+expect BtnStart.TabStop True
+expect BtnStart.Visible True
+expect Label2.BorderStyle 0
+expect Label2.Enabled True
+expect Label2.Visible True
+expect Label6.ToolTipText ""
+expect OLE1.Visible True
+expect LineA(1).Locked True
+expect LineA(1).TabStop False
+key Alt+R
+expect Text2.Locked True
+expect Text2.BorderStyle 1
+expect Text3.BorderStyle 0
+expect Text2.TabStop False
+expect Text2.Enabled True
+expect Text2.ForeColor 0
+expect Text2.FontBold False
+expect CmdDisclaimer.TabIndex 1
+)"}),
+    [](const auto& info) { return info.param.name; });
+
 std::string deliveredChecks() {
   std::string checks;
   for (const DeliveredFile& file : deliveredFiles())
@@ -165,13 +305,20 @@ TEST(ScenarioDeliver, WritesTheCurrentDrawFileAndTheDrawItNames) {
   EXPECT_TRUE(played.result.passed) << played.result.reason;
 }
 
-TEST(ScenarioDeliver, NeverOverwritesAFileThatIsThere) {
+TEST(ScenarioDeliver, NeverReplacesAFileThatIsThere) {
   const std::string& drawFile = deliveredFiles()[1].name;
   const testing::Played played = play("file DrawNumber \"9\\r\\n\"\nfile " + drawFile +
-                                      " \"mine\"\ndeliver\nexpect file DrawNumber \"9\\r\\n\"\n"
-                                      "expect file " +
-                                      drawFile + " \"mine\"\n");
-  EXPECT_TRUE(played.result.passed) << played.result.reason;
+                                      " \"mine\"\ndeliver\nexpect file DrawNumber \"9\\r\\n\"\n" +
+                                      "expect file " + drawFile + " \"mine\"\n");
+  EXPECT_TRUE(played.result.passed) << played.result.line << ": " << played.result.reason;
+}
+
+// A second deliver puts back a delivered file that has gone, and leaves the rest.
+TEST(ScenarioDeliver, TwiceBringsBackWhatIsMissing) {
+  const testing::Played played =
+      play("deliver\nstart\nkey Enter\nexpect form Veridraw7f\ndelete " + deliveredFiles()[1].name +
+           "\ndeliver\nexpect running\n" + deliveredChecks());
+  EXPECT_TRUE(played.result.passed) << played.result.line << ": " << played.result.reason;
 }
 
 TEST(ScenarioPrint, AnswersInTheNotationOfExpect) {
@@ -187,6 +334,10 @@ print file a
 print file b
 key Alt+X
 print focus
+print form
+file "Lotto # 7" ""
+print file "Lotto # 7"
+print file "Lotto # 8"
 )");
   EXPECT_TRUE(played.result.passed) << played.result.reason;
   EXPECT_EQ(played.output,
@@ -198,7 +349,17 @@ print focus
             "Label2.FontBold True\n"
             "file a \"x\\r\\n\"\n"
             "nofile b\n"
-            "focus none\n");
+            "focus none\n"
+            "form none\n"
+            "file \"Lotto # 7\" \"\"\n"
+            "nofile \"Lotto # 8\"\n");
+}
+
+TEST(ScenarioPrint, TheItemsOfAListInTheNotationOfExpect) {
+  const testing::Played played =
+      play("deliver\nstart\nkey Enter\nprint items List1\nprint items LstLottoTicket\n");
+  EXPECT_TRUE(played.result.passed) << played.result.reason;
+  EXPECT_EQ(played.output, "items List1 \"1105\"\nitems LstLottoTicket\n");
 }
 
 TEST(ScenarioPrint, EachCheckedLineOfAPassingScenarioPrintsNothing) {

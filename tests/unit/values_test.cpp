@@ -26,6 +26,9 @@ TEST(ParseValue, ReadsStringsBooleansAndNumbers) {
   EXPECT_EQ(valueOf("0xC0FFFF"), Value(12648447.0));
   EXPECT_EQ(valueOf("0x0000FF"), Value(255.0));
   EXPECT_EQ(valueOf("8.25"), Value(8.25));
+  EXPECT_EQ(valueOf("0XFF"), Value(255.0));
+  EXPECT_EQ(valueOf("0xFFFFFFFF"), Value(4294967295.0));
+  EXPECT_EQ(valueOf("-0"), Value(0.0));
 }
 
 class ParseValueRefuses : public ::testing::TestWithParam<std::string> {};
@@ -36,7 +39,8 @@ TEST_P(ParseValueRefuses, WordsThatAreNoValue) {
 
 INSTANTIATE_TEST_SUITE_P(Words, ParseValueRefuses,
                          ::testing::Values("abc", "true", "FALSE", "12abc", "0x", "0xZZ", "0x12G",
-                                           "-", "nan", "inf", "-infinity", "Text"));
+                                           "-", "nan", "inf", "-infinity", "Text", "1e9", "-0x5",
+                                           "0x0x5", "0x-5", "+1", "1.", ".5", "1.2.3", " 1"));
 
 TEST(FormatValue, WritesTheNotationOfExpect) {
   EXPECT_EQ(formatValue(Value(std::string("12 \r\n"))), R"("12 \r\n")");
