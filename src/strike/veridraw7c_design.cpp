@@ -91,7 +91,8 @@ FormDesign veridraw7cDesign() {
     label("LbLchangeTicket", {7020, 5160, 1395, 450}, "<--- Click to change the ticket number").back(colors::kYellow).fore(colors::kRed).hidden(),
     label("LblSaved", {4320, 6360, 3255, 330}, "Ticket has been Saved").back(colors::kPaleYellow).centred().hidden(),
 
-    textBox("TxtNoofLines", {4650, 1080, 2775, 315}, " Click the last line letter on your ticket").lockedBox().noTabStop().hidden(),
+    // Smaller than the text of the other boxes, so that the whole sentence fits its box.
+    textBox("TxtNoofLines", {4650, 1080, 2775, 315}, " Click the last line letter on your ticket").font(7.5).lockedBox().noTabStop().hidden(),
     label("LblEnterLine", {3090, kGridTop, 3015, 255}, " Line A -- Enter the 4 Two Digit  numbers").back(kPromptBlue).fore(colors::kWhite).hidden(),
     label("LblSpaceBar", {8880, 6480, 2655, 615}, "To correct errors  backtrack with the Space Bar").back(kHintOrange).fore(colors::kWhite).hidden(),
 

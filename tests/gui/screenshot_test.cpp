@@ -1,4 +1,4 @@
-// Renders the start, readme, draw and Lotto screens of the real program, and
+// Renders the start, readme, draw, Lotto and Strike screens of the real program, and
 // a test form with a control of every kind, to PNG files in the test's
 // directory, screens/, for the README and for a look by eye.
 #include <QDir>
@@ -101,6 +101,29 @@ class ScreenshotTest : public QObject {
     QTest::keyClick(program.window(), Qt::Key_C, Qt::AltModifier);
     QVERIFY(program.view("LblYouveWon")->isVisible());
     saveAndCheck(*program.window(), "screens/lotto-outcome.png", kDrawScreenSize);
+  }
+
+  void strikeScreen() {
+    ProgramOnDesktop program;
+    makeDraw705Current(program);
+    openTicketScreen(program, "Btn2Strike");
+    QCOMPARE(program.window()->form().name(), "Veridraw7c");
+    saveAndCheck(*program.window(), "screens/strike.png", kDrawScreenSize);
+  }
+
+  // A Strike ticket of three lines against 17 03 39 08: a Strike 3, a Strike 2
+  // and nothing.
+  void strikeScreenWithItsOutcome() {
+    ProgramOnDesktop program;
+    makeDraw705Current(program);
+    openTicketScreen(program, "Btn2Strike");
+    QTest::keyClick(program.window(), Qt::Key_N, Qt::AltModifier);
+    ControlView& lineC = *program.view("BtnLineC");
+    QTest::mouseClick(&lineC, Qt::LeftButton, {}, middleOf(lineC));
+    QTest::keyClicks(program.window(), "170339100103020804050607");
+    QTest::keyClick(program.window(), Qt::Key_C, Qt::AltModifier);
+    QVERIFY(program.view("LblYouveWon")->isVisible());
+    saveAndCheck(*program.window(), "screens/strike-outcome.png", kDrawScreenSize);
   }
 
   void everyKindOfControl() {
