@@ -71,7 +71,7 @@ void TicketScreen::OwnNumRoutine() {
 }
 
 void TicketScreen::LineA_Change() {
-  CmdShowResults->setVisible(false);
+  if (game_.changeHidesShowResults) CmdShowResults->setVisible(false);
   LineA(1).setTabStop(true);
   LineStartCell = 1;
   const int bound = LineCount * game_.cellsPerLine + 2;
@@ -126,11 +126,15 @@ bool TicketScreen::OutOfOrder() {
 }
 
 void TicketScreen::Refuse(const std::string& message) {
-  LineA(CurrentCell).setBackColor(colors::kRed);
+  RefuseCell(LineA(CurrentCell), message, colors::kWhite);
+}
+
+void TicketScreen::RefuseCell(Control& cell, const std::string& message, std::int32_t back) {
+  cell.setBackColor(colors::kRed);
   LastMessageResult = MsgBox(message, msgbox::kOkOnly, kWarningTitle);
-  LineA(CurrentCell).setBackColor(colors::kWhite);
-  LineA(CurrentCell).SetFocus();
-  LineA(CurrentCell).setText(kEmptyCell);
+  cell.setBackColor(back);
+  cell.SetFocus();
+  cell.setText(kEmptyCell);
 }
 
 // A complete cell is locked and the cursor moves on to the next one.

@@ -31,6 +31,8 @@ struct TicketGame {
   std::string prizeCountBox;
   std::string prizeLabel;
   int prizeRows = 0;
+  // Whether each change of a cell hides CmdShowResults, as on the Lotto screen.
+  bool changeHidesShowResults = true;
 
   int gridCells() const { return mostLines * cellsPerLine; }
   // The spare cells follow the grid, and the cover box follows them.

@@ -73,9 +73,28 @@ class TicketScreen : public Form, public store::DrawFields, public store::Ticket
   // Takes the numbers of the draw on display for the check that follows.
   virtual void FreezeDraw() = 0;
   virtual void NumberSortRoutine() = 0;
+  // The PowerBall screen's fourth record of a ticket file; none elsewhere.
+  virtual store::PowerBallColumn* PowerBallRecord() { return nullptr; }
+  // A column of the screen's own beside the cells, on the way of a loaded
+  // ticket: when the cells have their pairs, when they have been painted, and
+  // the check itself.
+  virtual void LoadColumn() {}
+  virtual void PaintColumn() {}
+  virtual void CheckLoadedTicket() { NumberSortRoutine(); }
   // Whether the complete cell CurrentCell breaks the rule of its line against
   // the cells OrderFirst and OrderSecond: on the Lotto screen a line ascends.
   virtual bool OutOfOrder();
+
+  // A refused number: the cell red while the warning stands, then in the
+  // colour `back`, with the focus, and empty, which runs its Change again.
+  void RefuseCell(Control& cell, const std::string& message, std::int32_t back);
+  // The Lotto match of the line whose six cells start at `cell`, which it
+  // leaves at the next line: a ticket number equal to a main number shows in
+  // the prize grid, one equal to the bonus shows there in white on blue. The
+  // bonus test stands inside the loop over the main numbers, so it is made six
+  // times a cell with one result.
+  void MatchLottoLine(Integer& cell, const CheckedArray<Integer>& CheckNumbers, Integer bonus,
+                      Integer& MatchCount, Integer& BonusMatched);
 
   // The value of a cell's text by the Val rule.
   double CellValue(int cell) const;

@@ -86,21 +86,7 @@ void Veridraw7b::NumberSortRoutine() {
   for (int line = 1; line <= LineCount; ++line) {
     MatchCount = 0;
     BonusMatched = 0;
-    for (int position = 1; position <= game_.cellsPerLine; ++position) {
-      for (int k = 1; k <= kMainNumbers; ++k) {
-        if (TicketCells(cell) == CheckNumbers(k)) {
-          IntResult(cell).setText(LineA(cell).text());
-          MatchCount = MatchCount + 1;
-        }
-        if (TicketCells(cell) == DrawNumbers(kBonus)) {
-          IntResult(cell).setText(LineA(cell).text());
-          IntResult(cell).setBackColor(colors::kBlue);
-          IntResult(cell).setForeColor(colors::kWhite);
-          BonusMatched = 1;
-        }
-      }
-      cell = cell + 1;
-    }
+    MatchLottoLine(cell, CheckNumbers, DrawNumbers(kBonus), MatchCount, BonusMatched);
     DivisionResults();
   }
 }
