@@ -79,6 +79,7 @@ class Veridraw7f : public Form, private store::DrawFields {
   void BtnCheckTickets_Click();
   void BtnCancel_Click();
   void Btn1Lotto_Click();
+  void BtnPowerBall_Click();
   void BtnRestart_Click();
   void CmdEnd_Click();
   void List1_Click();

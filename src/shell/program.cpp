@@ -1,6 +1,7 @@
 #include "shell/program.h"
 
 #include "draws/veridraw7f.h"
+#include "powerball/veridraw7e.h"
 #include "shell/veridraw7a.h"
 #include "shell/veridraw7d.h"
 #include "tickets/veridraw7b.h"
@@ -12,6 +13,7 @@ void addVeridrawForms(Application& application) {
   application.addForm<Veridraw7d>();
   application.addForm<Veridraw7f>();
   application.addForm<Veridraw7b>();
+  application.addForm<Veridraw7e>();
 }
 
 }  // namespace veridraw
