@@ -11,19 +11,14 @@ namespace veridraw {
 
 namespace {
 
-constexpr int kMainNumbers = 6;
-constexpr int kBonus = 7;
 constexpr int kPowerBall = 8;
-constexpr int kDivisions = 5;
-constexpr int kFirstRowTop = 1800;
-constexpr int kRowStep = 300;
 
 }  // namespace
 
 // The six main numbers are frozen for the check; the bonus and the PowerBall
 // are read from DrawNumbers itself when the check runs.
 void Veridraw7e::FreezeDraw() {
-  for (int k = 1; k <= kMainNumbers; ++k)
+  for (int k = 1; k <= tickets::kMainNumbers; ++k)
     CheckNumbers(k) = DrawNumbers(k);
 }
 
@@ -34,7 +29,7 @@ void Veridraw7e::FreezeDraw() {
 void Veridraw7e::NumberSortRoutine() {
   FetchPowerBallNumbers();
   Integer cell = 1;
-  for (int division = 1; division <= kDivisions; ++division) {
+  for (int division = 1; division <= tickets::kDivisions; ++division) {
     DivisionCount(division) = 0;
     PowerBallDivisionCount(division) = 0;
   }
@@ -49,7 +44,7 @@ void Veridraw7e::NumberSortRoutine() {
       TxtPwrBall(LineNumber).setForeColor(colors::kWhite);
       PowerBallMatched = 1;
     }
-    MatchLottoLine(cell, CheckNumbers, DrawNumbers(kBonus), MatchCount, BonusMatched);
+    MatchLottoLine(cell, CheckNumbers, DrawNumbers(tickets::kBonus), MatchCount, BonusMatched);
     DivisionResults();
   }
 }
@@ -112,14 +107,7 @@ void Veridraw7e::AddToPowerBallDivision(int division) {
 // the boxes after it, and with the heading of its column.
 void Veridraw7e::CmdShowResults_Click() {
   const int cells = LineCount * game_.cellsPerLine;
-  for (const ControlRef* hidden :
-       {&LblSaved, &BtnCheckNewTicket, &BtnCancel, &BtnSaveTicket, &CmdShowResults})
-    (*hidden)->setVisible(false);
-  LineA(game_.coverCell()).setVisible(false);
-  for (int cell = 1; cell <= cells + 3; ++cell)
-    LineA(cell).setVisible(false);
-  for (int line = 1; line <= game_.mostLines; ++line)
-    TextATxt(line).setVisible(false);
+  HideTicketForResults();
   for (int line = 1; line <= LineCount; ++line)
     TxtPowerBall(line).setVisible(false);
   LblPwrBall1(0).setVisible(false);
@@ -149,7 +137,7 @@ void Veridraw7e::CmdShowResults_Click() {
 }
 
 bool Veridraw7e::TicketWonNothing() const {
-  for (int division = 1; division <= kDivisions; ++division)
+  for (int division = 1; division <= tickets::kDivisions; ++division)
     if (DivisionCount(division) != 0 || PowerBallDivisionCount(division) != 0) return false;
   return true;
 }
@@ -159,16 +147,16 @@ bool Veridraw7e::TicketWonNothing() const {
 // goes 300 lower first, so without that prize the rows begin at 2100. Only
 // the Lotto rows of Division 2 to 5 change their caption, to a plural too.
 void Veridraw7e::PlacePrizeRows() {
-  DivisionRowTop = kFirstRowTop;
-  for (int division = 1; division <= kDivisions; ++division) {
+  DivisionRowTop = tickets::kFirstRowTop;
+  for (int division = 1; division <= tickets::kDivisions; ++division) {
     if (PowerBallDivisionCount(division) > 0) {
-      if (division != 1) DivisionRowTop = DivisionRowTop + kRowStep;
+      if (division != 1) DivisionRowTop = DivisionRowTop + tickets::kRowStep;
       PlacePrizeRow(control("TxtDivPwrBall" + CStr(division)),
                     control("LblDivPwrBall" + CStr(division)));
     }
     const int count = DivisionCount(division);
     if (count > 0) {
-      DivisionRowTop = DivisionRowTop + kRowStep;
+      DivisionRowTop = DivisionRowTop + tickets::kRowStep;
       if (division != 1)
         PrizeLabel(division).setCaption("Division " + CStr(division) +
                                         (count == 1 ? " Prize" : " Prizes"));

@@ -101,13 +101,7 @@ void Veridraw7e::TxtPowerBall_Change() {
     PowerBallBacktrack(TxtPowerBall);
     PowerBallRange(TxtPowerBall, colors::kWhite);
     if (Len(TxtPowerBall(CurrentCell).text()) == tickets::kCompleteCell) {
-      TxtPowerBall(CurrentCell + 1).setLocked(false);
-      TxtPowerBall(CurrentCell + 1).setVisible(true);
-      TxtPowerBall(CurrentCell + 1).SetFocus();
-      TxtPowerBall(CurrentCell).setLocked(true);
-      LblEnterLine->setVisible(false);
-      PBEntBox();
-      LblEnterLine->setVisible(true);
+      AdvanceCell(TxtPowerBall, [this] { PBEntBox(); });
       if (CurrentCell == LineCount) FinishPowerBallEntry();
     }
     CurrentCell = CurrentCell + 1;
@@ -154,13 +148,7 @@ void Veridraw7e::PowerBallRange(const ControlArray& cells, std::int32_t backAfte
 void Veridraw7e::FinishPowerBallEntry() {
   const int cells = LineCount * game_.cellsPerLine;
   LblEnterLine->setVisible(false);
-  for (int cell = 1; cell <= cells; ++cell) {
-    TicketCells(cell) = CellInteger(cell);
-    IntResult(cell).setLocked(false);
-  }
-  LblSpaceBar->setVisible(false);
-  LblEnterLine->setVisible(false);
-  FreezeDraw();
+  TakeTicketCells();
   for (int cell = 1; cell <= cells + 1; ++cell) {
     LineA(cell).setBackColor(colors::kPaleYellow);
     LineA(cell).setBorderStyle(0);

@@ -5,12 +5,6 @@
 
 namespace veridraw::tickets {
 
-namespace {
-
-constexpr int kMainNumbers = 6;
-
-}  // namespace
-
 void TicketScreen::MatchLottoLine(Integer& cell, const CheckedArray<Integer>& CheckNumbers,
                                   Integer bonus, Integer& MatchCount, Integer& BonusMatched) {
   for (int position = 1; position <= game_.cellsPerLine; ++position) {

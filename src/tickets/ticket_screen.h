@@ -7,6 +7,7 @@
 // of a draw and the summary of prizes belong to each screen.
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include "screen/application.h"
@@ -31,6 +32,14 @@ inline constexpr int kCompleteCell = 3;
 // Heights of LblSpaceBar for a message of one line and of two.
 inline constexpr int kOneMessageHeight = 615;
 inline constexpr int kTwoMessagesHeight = 880;
+// The Lotto rule, which the PowerBall check shares: six main numbers, the
+// bonus as the seventh number of a draw, five divisions, and the rows of the
+// summary 300 apart from 1800 down.
+inline constexpr int kMainNumbers = 6;
+inline constexpr int kBonus = 7;
+inline constexpr int kDivisions = 5;
+inline constexpr int kFirstRowTop = 1800;
+inline constexpr int kRowStep = 300;
 
 class TicketScreen : public Form, public store::DrawFields, public store::TicketFields {
  public:
@@ -46,6 +55,7 @@ class TicketScreen : public Form, public store::DrawFields, public store::Ticket
   void BtnRestart_Click();
   void CmdEnd_Click();
   virtual void ClearResults();
+  void HideTicketForResults();
 
   // The entry of a ticket.
   void LineButton_Click(const LineButton& button);
@@ -53,6 +63,7 @@ class TicketScreen : public Form, public store::DrawFields, public store::Ticket
   void LineA_Change();
   void EntBox();
   virtual void EndOfEntry();
+  void TakeTicketCells();
 
   // Saved tickets.
   void TicketNumber();
@@ -85,6 +96,10 @@ class TicketScreen : public Form, public store::DrawFields, public store::Ticket
   // the cells OrderFirst and OrderSecond: on the Lotto screen a line ascends.
   virtual bool OutOfOrder();
 
+  // The complete cell CurrentCell of `cells` is locked and the cursor moves on
+  // to the next one, which is opened and shown; `prompt` moves the prompt
+  // while it is hidden.
+  void AdvanceCell(const ControlArray& cells, const std::function<void()>& prompt);
   // A refused number: the cell red while the warning stands, then in the
   // colour `back`, with the focus, and empty, which runs its Change again.
   void RefuseCell(Control& cell, const std::string& message, std::int32_t back);
