@@ -213,8 +213,8 @@ FormDesign veridraw7eDesign() {
     label("LblEnterLine", {3225, 1500, 3015, 255}, " Line A -- Enter the 6 Two Digit  numbers").back(kPromptBlue).fore(colors::kWhite).hidden(),
     label("LblSpaceBar", {8880, 6480, 2655, 615}, "To correct errors  backtrack with the Space Bar").back(kHintOrange).fore(colors::kWhite).hidden(),
 
-    label("LblPwrBall1", {2760, 1155, 375, 330}, "Power   Ball").at(0).font(8.25, true).centred(),
-    label("LblPwrBall1", {11160, 1155, 375, 330}, "Power   Ball").at(1).font(8.25, true).centred(),
+    label("LblPwrBall1", {2760, 1155, 510, 345}, "Power   Ball").at(0).centred(),
+    label("LblPwrBall1", {11160, 1155, 510, 345}, "Power   Ball").at(1).centred(),
     textBox("TxtLottoPrizes", {9285, 960, 1815, 285}, "LOTTO PRIZES").font(10, true).centred().lockedBox().noTabStop(),
     label("LblYouveWon", {4860, 1005, 2295, 600}, "").font(12, true).centred().hidden(),
     image("ImgMoney", {360, 1800, 2655, 1215}, "money").hidden(),
