@@ -101,7 +101,8 @@ void Veridraw7e::ShowDrawLine() {
   }
 }
 
-// The hint of the Space Bar in the size of this screen's messages.
+// The hint of the Space Bar in the size of this screen's messages. Set after
+// the Lotto screen's steps rather than among them: no event lies between.
 void Veridraw7e::BtnCheckNewTicket_Click() {
   TicketScreen::BtnCheckNewTicket_Click();
   LblSpaceBar->setFontSize(kHintFontSize);
@@ -109,6 +110,8 @@ void Veridraw7e::BtnCheckNewTicket_Click() {
 
 // The PowerBall columns go with the ticket; their texts, colours and borders
 // stay. The column of the prize grid comes back only with a loaded ticket.
+// They go after the letters A to D come back rather than before: the letters
+// take no focus, so nothing that can be seen differs.
 void Veridraw7e::BtnCancel_Click() {
   TicketScreen::BtnCancel_Click();
   for (int line = 1; line <= game_.mostLines; ++line)
