@@ -48,6 +48,7 @@ Veridraw7f::Veridraw7f(Application& application) : Form(application, veridraw7fD
   on("BtnCancel", Event::Click, [this] { BtnCancel_Click(); });
   on("Btn1Lotto", Event::Click, [this] { Btn1Lotto_Click(); });
   on("Btn2Strike", Event::Click, [this] { Btn2Strike_Click(); });
+  on("BtnPowerBall", Event::Click, [this] { BtnPowerBall_Click(); });
   on("BtnRestart", Event::Click, [this] { BtnRestart_Click(); });
   on("CmdEnd", Event::Click, [this] { CmdEnd_Click(); });
   on("List1", Event::Click, [this] { List1_Click(); });
@@ -234,6 +235,11 @@ void Veridraw7f::Btn1Lotto_Click() {
 
 void Veridraw7f::Btn2Strike_Click() {
   Show("Veridraw7c");
+  Unload();
+}
+
+void Veridraw7f::BtnPowerBall_Click() {
+  Show("Veridraw7e");
   Unload();
 }
 

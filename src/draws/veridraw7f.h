@@ -80,6 +80,7 @@ class Veridraw7f : public Form, private store::DrawFields {
   void BtnCancel_Click();
   void Btn1Lotto_Click();
   void Btn2Strike_Click();
+  void BtnPowerBall_Click();
   void BtnRestart_Click();
   void CmdEnd_Click();
   void List1_Click();

@@ -1,6 +1,7 @@
 #include "shell/program.h"
 
 #include "draws/veridraw7f.h"
+#include "powerball/veridraw7e.h"
 #include "shell/veridraw7a.h"
 #include "shell/veridraw7d.h"
 #include "strike/veridraw7c.h"
@@ -14,6 +15,7 @@ void addVeridrawForms(Application& application) {
   application.addForm<Veridraw7f>();
   application.addForm<Veridraw7b>();
   application.addForm<Veridraw7c>();
+  application.addForm<Veridraw7e>();
 }
 
 }  // namespace veridraw

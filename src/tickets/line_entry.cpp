@@ -127,22 +127,31 @@ bool TicketScreen::OutOfOrder() {
 }
 
 void TicketScreen::Refuse(const std::string& message, bool showPrompt) {
-  LineA(CurrentCell).setBackColor(colors::kRed);
+  RefuseCell(LineA(CurrentCell), message, colors::kWhite, showPrompt);
+}
+
+void TicketScreen::RefuseCell(Control& cell, const std::string& message, std::int32_t back,
+                              bool showPrompt) {
+  cell.setBackColor(colors::kRed);
   LastMessageResult = MsgBox(message, msgbox::kOkOnly, kWarningTitle);
   if (showPrompt) LblEnterLine->setVisible(true);
-  LineA(CurrentCell).setBackColor(colors::kWhite);
-  LineA(CurrentCell).SetFocus();
-  LineA(CurrentCell).setText(kEmptyCell);
+  cell.setBackColor(back);
+  cell.SetFocus();
+  cell.setText(kEmptyCell);
 }
 
 // A complete cell is locked and the cursor moves on to the next one.
 void TicketScreen::Advance() {
-  LineA(CurrentCell + 1).setLocked(false);
-  LineA(CurrentCell + 1).setVisible(true);
-  LineA(CurrentCell + 1).SetFocus();
-  LineA(CurrentCell).setLocked(true);
+  AdvanceCell(LineA, [this] { EntBox(); });
+}
+
+void TicketScreen::AdvanceCell(const ControlArray& cells, const std::function<void()>& prompt) {
+  cells(CurrentCell + 1).setLocked(false);
+  cells(CurrentCell + 1).setVisible(true);
+  cells(CurrentCell + 1).SetFocus();
+  cells(CurrentCell).setLocked(true);
   LblEnterLine->setVisible(false);
-  EntBox();
+  prompt();
   LblEnterLine->setVisible(true);
 }
 
@@ -166,13 +175,7 @@ void TicketScreen::EntBox() {
 void TicketScreen::EndOfEntry() {
   const int cells = LineCount * game_.cellsPerLine;
   LineA(cells + 1).SetFocus();
-  for (int cell = 1; cell <= cells; ++cell) {
-    TicketCells(cell) = CellInteger(cell);
-    IntResult(cell).setLocked(false);
-  }
-  LblSpaceBar->setVisible(false);
-  LblEnterLine->setVisible(false);
-  FreezeDraw();
+  TakeTicketCells();
   for (int cell = 1; cell <= cells; ++cell) {
     LineA(cell).setBackColor(colors::kPaleYellow);
     LineA(cell).setBorderStyle(0);
@@ -188,6 +191,19 @@ void TicketScreen::EndOfEntry() {
   LineA(1).setTabStop(false);
   CmdShowResults->setVisible(true);
   CmdShowResults->SetFocus();
+}
+
+// The cells of a complete ticket become its numbers, the prompts go, and the
+// draw on display at this moment is taken for the check.
+void TicketScreen::TakeTicketCells() {
+  const int cells = LineCount * game_.cellsPerLine;
+  for (int cell = 1; cell <= cells; ++cell) {
+    TicketCells(cell) = CellInteger(cell);
+    IntResult(cell).setLocked(false);
+  }
+  LblSpaceBar->setVisible(false);
+  LblEnterLine->setVisible(false);
+  FreezeDraw();
 }
 
 }  // namespace veridraw::tickets

@@ -71,8 +71,9 @@ void TicketScreen::BtnSaveTicket_Click() {
     LastMessageResult =
         MsgBox("You Must enter the Ticket Number", msgbox::kOkOnly, "Ticket Number");
   }
-  store::SaveTicket(files(), *this, game_.ticketPrefix, TicketNumberText, LineCount,
-                    game_.cellsPerLine, [this](int cell) { return LineA(cell).text(); });
+  store::SaveTicket(
+      files(), *this, game_.ticketPrefix, TicketNumberText, LineCount, game_.cellsPerLine,
+      [this](int cell) { return LineA(cell).text(); }, PowerBallRecord());
   ListClear1();
   FileExists1();
   LblSaved->setCaption("Ticket " + TicketFileName + " Has been Saved");
@@ -87,22 +88,26 @@ void TicketScreen::BtnSaveTicket_Click() {
 // loaded cell holds two characters and no blank, so the walk that each of its
 // assignments starts finds nothing complete and nothing wrong.
 void TicketScreen::LstLottoTicket_Click() {
-  store::LoadTicket(files(), *this, LstLottoTicket->text(), LineCount);
+  store::PowerBallColumn* powerBall = PowerBallRecord();
+  store::LoadTicket(files(), *this, LstLottoTicket->text(), LineCount,
+                    powerBall == nullptr ? nullptr : &powerBall->PowerBallText);
   const int cells = LineCount * game_.cellsPerLine;
   for (int cell = cells + 1; cell <= game_.gridCells(); ++cell)
     LineA(cell).setVisible(false);
   for (int cell = 1; cell <= cells; ++cell)
     LineA(cell).setText(store::TicketPair(TicketLineText, cell));
+  LoadColumn();
   FreezeDraw();
   for (int cell = 1; cell <= cells; ++cell) {
     LineA(cell).setBackColor(colors::kPaleYellow);
     LineA(cell).setBorderStyle(0);
     LineA(cell).setVisible(true);
   }
+  PaintColumn();
   for (int cell = 1; cell <= cells; ++cell)
     TicketCells(cell) = CellInteger(cell);
   ClearResults();
-  NumberSortRoutine();
+  CheckLoadedTicket();
   ShowLetters(1, LineCount, true);
   Image3->setVisible(true);
   Image4->setVisible(true);

@@ -211,6 +211,20 @@ void TicketScreen::ShowTicketWithoutPrizes(int cells) {
     (*hidden)->setVisible(false);
 }
 
+// The first steps of showing the results: the buttons of the ticket go, and so
+// do its cells with the three after them, the cover box and the letters.
+void TicketScreen::HideTicketForResults() {
+  const int cells = LineCount * game_.cellsPerLine;
+  for (const ControlRef* hidden :
+       {&LblSaved, &BtnCheckNewTicket, &BtnCancel, &BtnSaveTicket, &CmdShowResults})
+    (*hidden)->setVisible(false);
+  LineA(game_.coverCell()).setVisible(false);
+  for (int cell = 1; cell <= cells + 3; ++cell)
+    LineA(cell).setVisible(false);
+  for (int line = 1; line <= game_.mostLines; ++line)
+    TextATxt(line).setVisible(false);
+}
+
 void TicketScreen::BtnRestart_Click() {
   Show("Veridraw7f");
   Unload();

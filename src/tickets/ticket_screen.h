@@ -7,6 +7,7 @@
 // of a draw and the summary of prizes belong to each screen.
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include "screen/application.h"
@@ -31,6 +32,14 @@ inline constexpr int kCompleteCell = 3;
 // Heights of LblSpaceBar for a message of one line and of two.
 inline constexpr int kOneMessageHeight = 615;
 inline constexpr int kTwoMessagesHeight = 880;
+// The Lotto rule, which the PowerBall check shares: six main numbers, the
+// bonus as the seventh number of a draw, five divisions, and the rows of the
+// summary 300 apart from 1800 down.
+inline constexpr int kMainNumbers = 6;
+inline constexpr int kBonus = 7;
+inline constexpr int kDivisions = 5;
+inline constexpr int kFirstRowTop = 1800;
+inline constexpr int kRowStep = 300;
 
 class TicketScreen : public Form, public store::DrawFields, public store::TicketFields {
  public:
@@ -48,6 +57,7 @@ class TicketScreen : public Form, public store::DrawFields, public store::Ticket
   virtual void ClearResults();
   // The outcome of a ticket that won nothing: cells 1 to `cells` come back.
   void ShowTicketWithoutPrizes(int cells);
+  void HideTicketForResults();
 
   // The entry of a ticket.
   void LineButton_Click(const LineButton& button);
@@ -55,6 +65,7 @@ class TicketScreen : public Form, public store::DrawFields, public store::Ticket
   void LineA_Change();
   void EntBox();
   virtual void EndOfEntry();
+  void TakeTicketCells();
 
   // Saved tickets.
   void TicketNumber();
@@ -75,9 +86,33 @@ class TicketScreen : public Form, public store::DrawFields, public store::Ticket
   // Takes the numbers of the draw on display for the check that follows.
   virtual void FreezeDraw() = 0;
   virtual void NumberSortRoutine() = 0;
+  // The PowerBall screen's fourth record of a ticket file; none elsewhere.
+  virtual store::PowerBallColumn* PowerBallRecord() { return nullptr; }
+  // A column of the screen's own beside the cells, on the way of a loaded
+  // ticket: when the cells have their pairs, when they have been painted, and
+  // the check itself.
+  virtual void LoadColumn() {}
+  virtual void PaintColumn() {}
+  virtual void CheckLoadedTicket() { NumberSortRoutine(); }
   // Whether the complete cell CurrentCell breaks the rule of its line against
   // the cells OrderFirst and OrderSecond: on the Lotto screen a line ascends.
   virtual bool OutOfOrder();
+
+  // The complete cell CurrentCell of `cells` is locked and the cursor moves on
+  // to the next one, which is opened and shown; `prompt` moves the prompt
+  // while it is hidden.
+  void AdvanceCell(const ControlArray& cells, const std::function<void()>& prompt);
+  // A refused number: the cell red while the warning stands, then in the
+  // colour `back`, with the focus, and empty, which runs its Change again.
+  void RefuseCell(Control& cell, const std::string& message, std::int32_t back,
+                  bool showPrompt = false);
+  // The Lotto match of the line whose six cells start at `cell`, which it
+  // leaves at the next line: a ticket number equal to a main number shows in
+  // the prize grid, one equal to the bonus shows there in white on blue. The
+  // bonus test stands inside the loop over the main numbers, so it is made six
+  // times a cell with one result.
+  void MatchLottoLine(Integer& cell, const CheckedArray<Integer>& CheckNumbers, Integer bonus,
+                      Integer& MatchCount, Integer& BonusMatched);
 
   // The value of a cell's text by the Val rule.
   double CellValue(int cell) const;

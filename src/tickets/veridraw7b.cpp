@@ -4,15 +4,11 @@
 
 namespace veridraw {
 
-namespace {
-
-constexpr int kMainNumbers = 6;
-constexpr int kBonus = 7;
-constexpr int kDivisions = 5;
-constexpr int kFirstRowTop = 1800;
-constexpr int kRowStep = 300;
-
-}  // namespace
+using tickets::kBonus;
+using tickets::kDivisions;
+using tickets::kFirstRowTop;
+using tickets::kMainNumbers;
+using tickets::kRowStep;
 
 Veridraw7b::Veridraw7b(Application& application)
     : TicketScreen(application, veridraw7bDesign(), lottoGame()) {}
@@ -86,21 +82,7 @@ void Veridraw7b::NumberSortRoutine() {
   for (int line = 1; line <= LineCount; ++line) {
     MatchCount = 0;
     BonusMatched = 0;
-    for (int position = 1; position <= game_.cellsPerLine; ++position) {
-      for (int k = 1; k <= kMainNumbers; ++k) {
-        if (TicketCells(cell) == CheckNumbers(k)) {
-          IntResult(cell).setText(LineA(cell).text());
-          MatchCount = MatchCount + 1;
-        }
-        if (TicketCells(cell) == DrawNumbers(kBonus)) {
-          IntResult(cell).setText(LineA(cell).text());
-          IntResult(cell).setBackColor(colors::kBlue);
-          IntResult(cell).setForeColor(colors::kWhite);
-          BonusMatched = 1;
-        }
-      }
-      cell = cell + 1;
-    }
+    MatchLottoLine(cell, CheckNumbers, DrawNumbers(kBonus), MatchCount, BonusMatched);
     DivisionResults();
   }
 }
@@ -131,14 +113,7 @@ void Veridraw7b::AddToDivision(int division, int step) {
 // boxes below its last line.
 void Veridraw7b::CmdShowResults_Click() {
   const int cells = LineCount * game_.cellsPerLine;
-  for (const ControlRef* hidden :
-       {&LblSaved, &BtnCheckNewTicket, &BtnCancel, &BtnSaveTicket, &CmdShowResults})
-    (*hidden)->setVisible(false);
-  LineA(game_.coverCell()).setVisible(false);
-  for (int cell = 1; cell <= cells + 3; ++cell)
-    LineA(cell).setVisible(false);
-  for (int line = 1; line <= game_.mostLines; ++line)
-    TextATxt(line).setVisible(false);
+  HideTicketForResults();
   ImgCoins->setVisible(true);
   ImgMoney->setVisible(true);
   Image1->setVisible(false);

@@ -3,38 +3,12 @@
 // prize grid and the rows and captions of the summary.
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <set>
-
 #include "screen/strings.h"
+#include "unit/lotto_lines.h"
 #include "unit/lotto_screen_support.h"
 
 namespace veridraw::testing {
 namespace {
-
-// Draw 705: main numbers 03 08 17 22 39 40, bonus 12; these six match nothing.
-const std::vector<int> kMain = {3, 8, 17, 22, 39, 40};
-constexpr int kBonus = 12;
-const std::vector<int> kMisses = {1, 2, 4, 5, 6, 7};
-
-std::string pair(int number) {
-  return (number < 10 ? "0" : "") + CStr(number);
-}
-
-// A line of six ascending numbers: `matches` main numbers, the bonus if asked.
-std::string lineWith(int matches, bool bonus) {
-  std::vector<int> numbers(kMain.begin(), kMain.begin() + matches);
-  if (bonus) numbers.push_back(kBonus);
-  for (const int miss : kMisses)
-    if (numbers.size() < 6) numbers.push_back(miss);
-  std::sort(numbers.begin(), numbers.end());
-  std::string line;
-  for (const int number : numbers)
-    line += pair(number);
-  return line;
-}
-
-const std::string kNothing = lineWith(0, false);
 
 class LottoCheck : public LottoScreen {
  protected:
@@ -93,26 +67,7 @@ class LottoCheck : public LottoScreen {
     for (int division = 1; division <= 5; ++division)
       expectNoRow(division);
   }
-  // The prize grid of line 1 after the comparison: main numbers black on pale
-  // yellow, the bonus white on blue, the rest blank.
-  void expectGridOfLine(int line) {
-    for (int cell = (line - 1) * 6 + 1; cell <= line * 6; ++cell) {
-      SCOPED_TRACE("cell " + CStr(cell));
-      const int value = static_cast<int>(Val(text(cell)));
-      const Control& result = c("IntResult", cell);
-      if (std::count(kMain.begin(), kMain.end(), value) > 0) {
-        EXPECT_EQ(result.text(), text(cell));
-        EXPECT_EQ(result.backColor(), colors::kPaleYellow);
-        EXPECT_EQ(result.foreColor(), colors::kBlack);
-      } else if (value == kBonus) {
-        EXPECT_EQ(result.text(), text(cell));
-        EXPECT_EQ(result.backColor(), colors::kBlue);
-        EXPECT_EQ(result.foreColor(), colors::kWhite);
-      } else {
-        EXPECT_EQ(result.text(), " ");
-      }
-    }
-  }
+  void expectGridOfLine(int line) { expectPrizeGridOfLine(screen(), line); }
 };
 
 // Every count of main numbers from 0 to 6, with and without the bonus (six

@@ -1,0 +1,246 @@
+// The design of the PowerBall screen, as its designer laid it out: the Lotto
+// screen's controls, most of them moved a little, with the PowerBall column of
+// the ticket and of the prize grid, the box of the one number, the question and
+// the PowerBall prize rows added. And the numbers of the PowerBall game that
+// the shared ticket procedures read.
+#include "powerball/veridraw7e.h"
+#include "store/draw_store.h"
+#include "tickets/ticket_design.h"
+#include "tickets/veridraw7b.h"
+
+namespace veridraw {
+
+namespace {
+
+constexpr int kGridTop = 1500;
+constexpr int kRowStep = 255;
+constexpr int kColumnStep = 300;
+constexpr int kPrizeRowStep = 300;
+constexpr int kSpareTop = 8205;
+constexpr std::int32_t kPromptBlue = 0xC00000;
+constexpr std::int32_t kHintOrange = 0x0040C0;
+
+}  // namespace
+
+// A Lotto ticket in its files of its own, listed from the first PowerBall
+// draw. The cover box of the longest ticket stands lower than on the Lotto
+// screen, and a change of a cell leaves CmdShowResults alone.
+const tickets::TicketGame& powerBallGame() {
+  static const tickets::TicketGame game = [] {
+    tickets::TicketGame powerBall = lottoGame();
+    powerBall.lineButtons.back().coverTop = 7560;
+    powerBall.ticketPrefix = store::kPowerBallPrefix;
+    powerBall.firstListedDraw = store::kFirstPowerBallDraw;
+    powerBall.changeHidesShowResults = false;
+    return powerBall;
+  }();
+  return game;
+}
+
+namespace {
+
+void addPrizeRows(std::vector<ControlDesign>& controls, int rows) {
+  for (int division = 1; division <= rows; ++division) {
+    const int top = 1800 + (division - 1) * kPrizeRowStep;
+    const std::string number = std::to_string(division);
+    const ControlDesign count =
+        textBox("", {4440, top, 375, 285}).centred().lockedBox().noTabStop().hidden();
+    ControlDesign lottoCount = count;
+    lottoCount.name = "TxtDivision" + number;
+    controls.push_back(std::move(lottoCount));
+    const int labelWidth = division == 5 ? 2105 : 2150;
+    controls.push_back(
+        label("LblDivision" + number, {5040, top, labelWidth, 255}, "Division " + number + " prize")
+            .hidden());
+    ControlDesign powerBallCount = count;
+    powerBallCount.name = "TxtDivPwrBall" + number;
+    controls.push_back(std::move(powerBallCount));
+    controls.push_back(label("LblDivPwrBall" + number, {5040, top, 3420, 255},
+                             "Division " + number + " PowerBall Prize")
+                           .hidden());
+  }
+}
+
+// The number cells, their spare cells behind the notice and the cover box.
+void addTicketGrid(std::vector<ControlDesign>& controls, const tickets::TicketGame& game) {
+  const ControlDesign cell = textBox("LineA", {0, 0, 300, 250}).centred().noTabStop().hidden();
+  tickets::addGrid(controls, cell, game.mostLines, game.cellsPerLine,
+                   {765, kGridTop, kColumnStep, kRowStep});
+  const int spareLefts[] = {1680, 2040, 2400};
+  for (int spare = 1; spare <= 3; ++spare)
+    controls.push_back(textBox("LineA", {spareLefts[spare - 1], kSpareTop, 300, 285})
+                           .at(game.gridCells() + spare)
+                           .centred()
+                           .noTabStop()
+                           .hidden());
+  controls.push_back(textBox("LineA", {720, 7560, 420, 285})
+                         .at(game.coverCell())
+                         .back(colors::kPaleYellow)
+                         .border(0)
+                         .lockedBox()
+                         .noTabStop()
+                         .hidden());
+}
+
+// The PowerBall column of the ticket, one cell a line, its two spare cells and
+// its cover box; the box of the one number and its spare boxes, which stand
+// visible behind the notice from the start.
+void addPowerBallEntry(std::vector<ControlDesign>& controls, int lines) {
+  for (int line = 1; line <= lines; ++line)
+    controls.push_back(textBox("TxtPowerBall", {2760, kGridTop + (line - 1) * kRowStep, 350, 250})
+                           .at(line)
+                           .font(8.25, true)
+                           .centred()
+                           .noTabStop()
+                           .hidden());
+  const int spareLefts[] = {360, 600};
+  for (int spare = 1; spare <= 2; ++spare)
+    controls.push_back(textBox("TxtPowerBall", {spareLefts[spare - 1], kSpareTop, 250, 285})
+                           .at(lines + spare)
+                           .back(colors::kGrey)
+                           .border(0)
+                           .noTabStop()
+                           .hidden());
+  controls.push_back(textBox("TxtPowerBall", {2760, 8040, 420, 520})
+                         .at(lines + 3)
+                         .back(colors::kPaleYellow)
+                         .border(0)
+                         .noTabStop()
+                         .hidden());
+  controls.push_back(textBox("TxtPwrBallNumber", {6960, 1400, 375, 375})
+                         .at(1)
+                         .back(colors::kWhite)
+                         .font(12, true)
+                         .centred()
+                         .noTabStop()
+                         .hidden());
+  const int boxLefts[] = {840, 1080, 1320};
+  for (int spare = 1; spare <= 3; ++spare)
+    controls.push_back(textBox("TxtPwrBallNumber", {boxLefts[spare - 1], kSpareTop, 250, 285})
+                           .at(1 + spare)
+                           .back(colors::kGrey)
+                           .border(0)
+                           .noTabStop());
+}
+
+// The prize grid, its letters and its PowerBall column, which shows a line's
+// number only when it matched. Element 73 of the grid stands 30 to the right
+// of its column, and element 1 of the column alone has a border.
+void addPrizeGrid(std::vector<ControlDesign>& controls, const tickets::TicketGame& game) {
+  const ControlDesign result = textBox("IntResult", {0, 0, 300, 250})
+                                   .back(colors::kPaleYellow)
+                                   .border(0)
+                                   .centred()
+                                   .noTabStop();
+  tickets::addGrid(controls, result, game.mostLines, game.cellsPerLine,
+                   {9210, kGridTop, kColumnStep, kRowStep});
+  for (ControlDesign& design : controls)
+    if (design.name == "IntResult" && design.index == 73) design.left = 9240;
+  for (int line = 1; line <= game.mostLines; ++line) {
+    ControlDesign column =
+        textBox("TxtPwrBall", {11160, kGridTop + (line - 1) * kRowStep, 350, 250})
+            .at(line)
+            .back(colors::kPaleYellow)
+            .border(0)
+            .font(8.25, true)
+            .centred()
+            .noTabStop();
+    if (line == 1) {
+      column.borderStyle = 1;
+      column.height = 285;
+    }
+    controls.push_back(std::move(column));
+  }
+}
+
+void addLineLettersAndButtons(std::vector<ControlDesign>& controls,
+                              const tickets::TicketGame& game) {
+  const ControlDesign letter = textBox("TextATxt", {330, kGridTop, 300, 250})
+                                   .back(colors::kPaleYellow)
+                                   .border(0)
+                                   .lockedBox()
+                                   .noTabStop();
+  tickets::addLineLetters(controls, letter, game.mostLines, kRowStep);
+  ControlDesign prizeLetter = letter;
+  prizeLetter.name = "TextBTxt";
+  prizeLetter.left = 8730;
+  prizeLetter.visible = false;
+  tickets::addLineLetters(controls, prizeLetter, game.mostLines, kRowStep);
+  tickets::addLineButtons(
+      controls, button("", {3400, kGridTop + 15, 855, 250}, "").back(colors::kPaleYellow).hidden(),
+      game.lineButtons, kRowStep);
+}
+
+}  // namespace
+
+FormDesign veridraw7eDesign() {
+  FormDesign form{"Veridraw7e", 11880, 8595, colors::kButtonFace, {}};
+  std::vector<ControlDesign>& controls = form.controls;
+  const tickets::TicketGame& game = powerBallGame();
+  // clang-format off
+  controls = {
+    button("BtnCheckNewTicket", {4250, 6360, 3255, 325}, "Check &New Ticket").tip("Click to check a New ticket").back(colors::kPaleYellow).hidden().tab(0),
+    button("BtnCheckSavedTickets", {4250, 6720, 3255, 325}, "Check &Saved Ticket").tip("Click to check a Saved ticket").back(colors::kPaleYellow).hidden().tab(1),
+    button("BtnSaveTicket", {4250, 6360, 3255, 325}, "Click to &Save this Ticket").tip("Save ticket").back(colors::kPaleYellow).hidden().tab(2),
+    button("CmdShowResults", {4250, 6720, 3255, 325}, "&Click Here to Show Results").tip("Display results of winnings").back(colors::kPaleYellow).hidden().tab(3),
+    button("BtnRestart", {4250, 8040, 1085, 375}, "&Main Menu").tip("Restart Veridraw").back(colors::kPaleYellow).tab(4),
+    button("BtnCancel", {5450, 8040, 975, 375}, "&Cancel").tip("Cancel this action").back(colors::kPaleYellow).hidden().tab(5),
+    button("CmdEnd", {6530, 8040, 975, 375}, "E&xit").tip("Exit Veridraw").back(colors::kPaleYellow).tab(6),
+    button("BtnDeleteTicket", {5350, 7560, 1095, 255}, "Delete Ticket").back(colors::kPaleYellow).hidden().tab(7),
+    listBox("List1", {4980, 4560, 735, 1230}).tip("Draw Numbers").hidden().tab(8),
+    listBox("LstLottoTicket", {5805, 4560, 1095, 1230}).tip("Saved Tickets").hidden().tab(9),
+    listBox("List2", {7680, 7200, 1095, 1230}).tip("Saved Tickets").tab(10),
+    button("BtnYes", {5040, 2000, 800, 325}, "&Yes").hidden().tab(11),
+    button("BtnNo", {6000, 2000, 800, 325}, "&No").hidden().tab(12),
+
+    label("lblPowerBall", {4650, 120, 2655, 705}, "Powerball").back(colors::kGreen).fore(colors::kWhite).font(24, true).centred(),
+    label("Label3", {330, 840, 2775, 375}, "Lotto Veridraw").font(12, true),
+    label("Label6", {5760, 1800, 15, 15}, "Label6"),
+    label("LblDraw", {570, 6360, 1815, 255}, "Current Draw Number"),
+    textBox("TxtDrawBox", {2520, 6240, 735, 360}).font(12, true).centred().lockedBox().noTabStop(),
+    label("LblLottoDraw", {600, 6705, 1335, 255}, "Lotto Numbers"),
+    textBox("TxtDrawnNumbers2", {2400, 6930, 375, 375}).at(7).back(colors::kBlue).fore(colors::kWhite).font(8.25, true).centred().lockedBox().noTabStop(),
+    textBox("TxtDrawnNumbers2", {2880, 6930, 375, 375}).at(8).back(colors::kGreen).fore(colors::kWhite).font(8.25, true).centred().lockedBox().noTabStop(),
+
+    label("LblSavedTickets2", {7875, 6720, 735, 375}, "Saved Tickets"),
+    label("LblDrawsAvailable", {5040, 5850, 735, 375}, "Draws Entered").hidden(),
+    label("LblSavedTickets", {6000, 5850, 735, 375}, "Saved Tickets").hidden(),
+    label("LbLchangeDraw", {3480, 5160, 1395, 450}, "Click to change ---> the draw number").back(colors::kYellow).fore(colors::kRed).hidden(),
+    label("LbLchangeTicket", {7020, 5160, 1395, 450}, "<---Click to change the ticket number").back(colors::kYellow).fore(colors::kRed).hidden(),
+    label("LblSaved", {4245, 6360, 3255, 330}, "Ticket has been Saved").back(colors::kPaleYellow).centred().hidden(),
+
+    textBox("TxtNoofLines", {4440, 1440, 2970, 300}, "Click on the last line letter on your ticket").lockedBox().noTabStop().hidden(),
+    label("LblEnterLine", {3225, 1500, 3015, 255}, " Line A -- Enter the 6 Two Digit  numbers").back(kPromptBlue).fore(colors::kWhite).hidden(),
+    label("LblSpaceBar", {8880, 6480, 2655, 615}, "To correct errors  backtrack with the Space Bar").back(kHintOrange).fore(colors::kWhite).hidden(),
+
+    label("LblPwrBall1", {2760, 1155, 510, 345}, "Power   Ball").at(0).centred(),
+    label("LblPwrBall1", {11160, 1155, 510, 345}, "Power   Ball").at(1).centred(),
+    textBox("TxtLottoPrizes", {9285, 960, 1815, 285}, "LOTTO PRIZES").font(10, true).centred().lockedBox().noTabStop(),
+    label("LblYouveWon", {4860, 1005, 2295, 600}, "").font(12, true).centred().hidden(),
+    image("ImgMoney", {360, 1800, 2655, 1215}, "money").hidden(),
+    image("ImgCoins", {570, 3720, 2295, 1500}, "coins").hidden(),
+    image("Image1", {450, 5280, 1050, 600}, "powerball"),
+    image("Image2", {1890, 5280, 975, 615}, "lotto"),
+    image("Image3", {8970, 5280, 1050, 600}, "powerball"),
+    image("Image4", {10290, 5280, 975, 615}, "lotto"),
+  };
+  // clang-format on
+  for (int k = 1; k <= 6; ++k)
+    controls.push_back(textBox("TxtDrawnNumbers2", {120 + (k - 1) * 360, 6960, 350, 300})
+                           .at(k)
+                           .centred()
+                           .lockedBox()
+                           .noTabStop());
+  addPrizeRows(controls, game.prizeRows);
+  addTicketGrid(controls, game);
+  addPowerBallEntry(controls, game.mostLines);
+  addPrizeGrid(controls, game);
+  addLineLettersAndButtons(controls, game);
+
+  // The owner's notice at the foot, in front of the spare cells.
+  controls.push_back(pictureButton("CmdNotice", {120, 8160, 2655, 375}, "notice")
+                         .tip("Veridraw is free to use and to share"));
+  return form;
+}
+
+}  // namespace veridraw
