@@ -15,7 +15,7 @@ namespace {
 
 using Painter = void (*)(QPainter&, const QRectF&);
 
-constexpr std::array<std::pair<std::string_view, Painter>, 9> kPictures{{
+constexpr std::array<std::pair<std::string_view, Painter>, 11> kPictures{{
     {"lotto", paintLotto},
     {"strike", paintStrike},
     {"powerball", paintPowerBall},
@@ -25,6 +25,9 @@ constexpr std::array<std::pair<std::string_view, Painter>, 9> kPictures{{
     {"money", paintMoney},
     {"lotto-balls", paintDrawMachine},
     {"lotto-ticket", paintTicketSlip},
+    // The Strike screen's decoration: its game picture and a ticket slip.
+    {"strike-balls", paintStrike},
+    {"strike-ticket", paintTicketSlip},
 }};
 
 Painter pictureNamed(std::string_view name) {

@@ -188,9 +188,9 @@ class PaintingTest : public QObject {
     const QSize size(80, 60);
     const QImage unknown = picture("no-such-picture", size);
     QVERIFY(colourCount(unknown) > 10);
-    for (const char* name :
-         {"notice", "mark", "coins", "money", "lotto-balls", "lotto-ticket", "document-lotto",
-          "document-strike", "document-powerball", "document-notes", "document-contact"}) {
+    for (const char* name : {"notice", "mark", "coins", "money", "lotto-balls", "lotto-ticket",
+                             "strike-balls", "strike-ticket", "document-lotto", "document-strike",
+                             "document-powerball", "document-notes", "document-contact"}) {
       const QImage image = picture(name, size);
       QVERIFY2(colourCount(image) > 10, name);
       QVERIFY2(!differingRows(image, unknown).isEmpty(), name);
