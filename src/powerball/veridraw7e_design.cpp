@@ -151,24 +151,6 @@ void addPrizeGrid(std::vector<ControlDesign>& controls, const tickets::TicketGam
   }
 }
 
-void addLineLettersAndButtons(std::vector<ControlDesign>& controls,
-                              const tickets::TicketGame& game) {
-  const ControlDesign letter = textBox("TextATxt", {330, kGridTop, 300, 250})
-                                   .back(colors::kPaleYellow)
-                                   .border(0)
-                                   .lockedBox()
-                                   .noTabStop();
-  tickets::addLineLetters(controls, letter, game.mostLines, kRowStep);
-  ControlDesign prizeLetter = letter;
-  prizeLetter.name = "TextBTxt";
-  prizeLetter.left = 8730;
-  prizeLetter.visible = false;
-  tickets::addLineLetters(controls, prizeLetter, game.mostLines, kRowStep);
-  tickets::addLineButtons(
-      controls, button("", {3400, kGridTop + 15, 855, 250}, "").back(colors::kPaleYellow).hidden(),
-      game.lineButtons, kRowStep);
-}
-
 }  // namespace
 
 FormDesign veridraw7eDesign() {
@@ -217,7 +199,14 @@ FormDesign veridraw7eDesign() {
   addTicketGrid(controls, game);
   addPowerBallEntry(controls, game.mostLines);
   addPrizeGrid(controls, game);
-  addLineLettersAndButtons(controls, game);
+  tickets::addLettersAndLineButtons(controls, game,
+                                    {.top = kGridTop,
+                                     .height = 250,
+                                     .ticketLeft = 330,
+                                     .prizeLeft = 8730,
+                                     .buttonLeft = 3400,
+                                     .buttonTop = kGridTop + 15},
+                                    kRowStep);
 
   tickets::addNotice(controls);
   return form;

@@ -147,21 +147,15 @@ FormDesign veridraw7cDesign() {
   tickets::addGrid(controls, result, game.mostLines, game.cellsPerLine,
                    {9285, kGridTop, kColumnStep, kRowStep});
   moveElement(controls, "IntResult", 46, 4800);
-  const ControlDesign letter = textBox("TextATxt", {390, kGridTop, 300, 285})
-                                   .back(colors::kPaleYellow)
-                                   .border(0)
-                                   .lockedBox()
-                                   .noTabStop();
-  tickets::addLineLetters(controls, letter, game.mostLines, kRowStep);
+  tickets::addLettersAndLineButtons(controls, game,
+                                    {.top = kGridTop,
+                                     .height = 285,
+                                     .ticketLeft = 390,
+                                     .prizeLeft = 8925,
+                                     .buttonLeft = 3360,
+                                     .buttonTop = kGridTop},
+                                    kRowStep);
   moveElement(controls, "TextATxt", 11, 4440);
-  ControlDesign prizeLetter = letter;
-  prizeLetter.name = "TextBTxt";
-  prizeLetter.left = 8925;
-  prizeLetter.visible = false;
-  tickets::addLineLetters(controls, prizeLetter, game.mostLines, kRowStep);
-  tickets::addLineButtons(
-      controls, button("", {3360, kGridTop, 855, 285}, "").back(colors::kPaleYellow).hidden(),
-      game.lineButtons, kRowStep);
 
   tickets::addNotice(controls);
   return form;

@@ -110,4 +110,25 @@ void addLineButtons(std::vector<ControlDesign>& controls, const ControlDesign& b
   }
 }
 
+void addLettersAndLineButtons(std::vector<ControlDesign>& controls, const TicketGame& game,
+                              LetterColumns columns, int rowStep) {
+  const ControlDesign letter =
+      textBox("TextATxt", {columns.ticketLeft, columns.top, 300, columns.height})
+          .back(colors::kPaleYellow)
+          .border(0)
+          .lockedBox()
+          .noTabStop();
+  addLineLetters(controls, letter, game.mostLines, rowStep);
+  ControlDesign prizeLetter = letter;
+  prizeLetter.name = "TextBTxt";
+  prizeLetter.left = columns.prizeLeft;
+  prizeLetter.visible = false;
+  addLineLetters(controls, prizeLetter, game.mostLines, rowStep);
+  addLineButtons(controls,
+                 button("", {columns.buttonLeft, columns.buttonTop, 855, columns.height}, "")
+                     .back(colors::kPaleYellow)
+                     .hidden(),
+                 game.lineButtons, rowStep);
+}
+
 }  // namespace veridraw::tickets

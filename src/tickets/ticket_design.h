@@ -76,4 +76,19 @@ void addLineLetters(std::vector<ControlDesign>& controls, const ControlDesign& l
 void addLineButtons(std::vector<ControlDesign>& controls, const ControlDesign& button,
                     const std::vector<LineButton>& buttons, int rowStep);
 
+// Where a screen stands the letters of its lines and its line buttons, at line A.
+struct LetterColumns {
+  int top = 0;
+  int height = 0;      // of a letter and of a line button
+  int ticketLeft = 0;  // TextATxt, the letters of the ticket
+  int prizeLeft = 0;   // TextBTxt, the hidden letters of the prize grid
+  int buttonLeft = 0;
+  int buttonTop = 0;
+};
+
+// The letters of the ticket, the letters of the prize grid and the line
+// buttons of `game`, in that order, one row every `rowStep`.
+void addLettersAndLineButtons(std::vector<ControlDesign>& controls, const TicketGame& game,
+                              LetterColumns columns, int rowStep);
+
 }  // namespace veridraw::tickets

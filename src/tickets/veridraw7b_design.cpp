@@ -103,20 +103,14 @@ FormDesign veridraw7bDesign() {
                                    .noTabStop();
   tickets::addGrid(controls, result, game.mostLines, game.cellsPerLine,
                    {9450, kGridTop, kColumnStep, kRowStep});
-  const ControlDesign letter = textBox("TextATxt", {450, kGridTop, 300, 250})
-                                   .back(colors::kPaleYellow)
-                                   .border(0)
-                                   .lockedBox()
-                                   .noTabStop();
-  tickets::addLineLetters(controls, letter, game.mostLines, kRowStep);
-  ControlDesign prizeLetter = letter;
-  prizeLetter.name = "TextBTxt";
-  prizeLetter.left = 8970;
-  prizeLetter.visible = false;
-  tickets::addLineLetters(controls, prizeLetter, game.mostLines, kRowStep);
-  tickets::addLineButtons(
-      controls, button("", {3360, kGridTop, 855, 250}, "").back(colors::kPaleYellow).hidden(),
-      game.lineButtons, kRowStep);
+  tickets::addLettersAndLineButtons(controls, game,
+                                    {.top = kGridTop,
+                                     .height = 250,
+                                     .ticketLeft = 450,
+                                     .prizeLeft = 8970,
+                                     .buttonLeft = 3360,
+                                     .buttonTop = kGridTop},
+                                    kRowStep);
 
   tickets::addNotice(controls);
   return form;
