@@ -17,8 +17,6 @@ constexpr int kRowStep = 255;
 constexpr int kColumnStep = 300;
 constexpr int kPrizeRowStep = 300;
 constexpr int kSpareTop = 8205;
-constexpr std::int32_t kPromptBlue = 0xC00000;
-constexpr std::int32_t kHintOrange = 0x0040C0;
 
 }  // namespace
 
@@ -153,77 +151,43 @@ void addPrizeGrid(std::vector<ControlDesign>& controls, const tickets::TicketGam
   }
 }
 
-void addLineLettersAndButtons(std::vector<ControlDesign>& controls,
-                              const tickets::TicketGame& game) {
-  const ControlDesign letter = textBox("TextATxt", {330, kGridTop, 300, 250})
-                                   .back(colors::kPaleYellow)
-                                   .border(0)
-                                   .lockedBox()
-                                   .noTabStop();
-  tickets::addLineLetters(controls, letter, game.mostLines, kRowStep);
-  ControlDesign prizeLetter = letter;
-  prizeLetter.name = "TextBTxt";
-  prizeLetter.left = 8730;
-  prizeLetter.visible = false;
-  tickets::addLineLetters(controls, prizeLetter, game.mostLines, kRowStep);
-  tickets::addLineButtons(
-      controls, button("", {3400, kGridTop + 15, 855, 250}, "").back(colors::kPaleYellow).hidden(),
-      game.lineButtons, kRowStep);
-}
-
 }  // namespace
 
 FormDesign veridraw7eDesign() {
   FormDesign form{"Veridraw7e", 11880, 8595, colors::kButtonFace, {}};
   std::vector<ControlDesign>& controls = form.controls;
   const tickets::TicketGame& game = powerBallGame();
+  tickets::addTicketControls(controls, {.flowLeft = 4250,
+                                        .deleteLeft = 5350,
+                                        .drawLabel = {570, 6360, 1815, 255},
+                                        .drawBox = {2520, 6240, 735, 360},
+                                        .drawBoxText = " ",
+                                        .savedLeft = 4245,
+                                        .linesPrompt = {4440, 1440, 2970, 300},
+                                        .linesPromptFont = 8.25,
+                                        .enterLine = {3225, 1500, 3015, 255},
+                                        .prizesHeading = {9285, 960, 1815, 285},
+                                        .youveWon = {4860, 1005, 2295, 600},
+                                        .ballsDrawing = "powerball",
+                                        .ticketDrawing = "lotto"});
   // clang-format off
-  controls = {
-    button("BtnCheckNewTicket", {4250, 6360, 3255, 325}, "Check &New Ticket").tip("Click to check a New ticket").back(colors::kPaleYellow).hidden().tab(0),
-    button("BtnCheckSavedTickets", {4250, 6720, 3255, 325}, "Check &Saved Ticket").tip("Click to check a Saved ticket").back(colors::kPaleYellow).hidden().tab(1),
-    button("BtnSaveTicket", {4250, 6360, 3255, 325}, "Click to &Save this Ticket").tip("Save ticket").back(colors::kPaleYellow).hidden().tab(2),
-    button("CmdShowResults", {4250, 6720, 3255, 325}, "&Click Here to Show Results").tip("Display results of winnings").back(colors::kPaleYellow).hidden().tab(3),
-    button("BtnRestart", {4250, 8040, 1085, 375}, "&Main Menu").tip("Restart Veridraw").back(colors::kPaleYellow).tab(4),
-    button("BtnCancel", {5450, 8040, 975, 375}, "&Cancel").tip("Cancel this action").back(colors::kPaleYellow).hidden().tab(5),
-    button("CmdEnd", {6530, 8040, 975, 375}, "E&xit").tip("Exit Veridraw").back(colors::kPaleYellow).tab(6),
-    button("BtnDeleteTicket", {5350, 7560, 1095, 255}, "Delete Ticket").back(colors::kPaleYellow).hidden().tab(7),
-    listBox("List1", {4980, 4560, 735, 1230}).tip("Draw Numbers").hidden().tab(8),
-    listBox("LstLottoTicket", {5805, 4560, 1095, 1230}).tip("Saved Tickets").hidden().tab(9),
-    listBox("List2", {7680, 7200, 1095, 1230}).tip("Saved Tickets").tab(10),
+  tickets::insertAfter(controls, "List2", {
     button("BtnYes", {5040, 2000, 800, 325}, "&Yes").hidden().tab(11),
     button("BtnNo", {6000, 2000, 800, 325}, "&No").hidden().tab(12),
-
     label("lblPowerBall", {4650, 120, 2655, 705}, "Powerball").back(colors::kGreen).fore(colors::kWhite).font(24, true).centred(),
-    label("Label3", {330, 840, 2775, 375}, "Lotto Veridraw").font(12, true),
+  });
+  tickets::insertAfter(controls, "Label3", {
     label("Label6", {5760, 1800, 15, 15}, "Label6"),
-    label("LblDraw", {570, 6360, 1815, 255}, "Current Draw Number"),
-    textBox("TxtDrawBox", {2520, 6240, 735, 360}).font(12, true).centred().lockedBox().noTabStop(),
+  });
+  tickets::insertAfter(controls, "TxtDrawBox", {
     label("LblLottoDraw", {600, 6705, 1335, 255}, "Lotto Numbers"),
     textBox("TxtDrawnNumbers2", {2400, 6930, 375, 375}).at(7).back(colors::kBlue).fore(colors::kWhite).font(8.25, true).centred().lockedBox().noTabStop(),
     textBox("TxtDrawnNumbers2", {2880, 6930, 375, 375}).at(8).back(colors::kGreen).fore(colors::kWhite).font(8.25, true).centred().lockedBox().noTabStop(),
-
-    label("LblSavedTickets2", {7875, 6720, 735, 375}, "Saved Tickets"),
-    label("LblDrawsAvailable", {5040, 5850, 735, 375}, "Draws Entered").hidden(),
-    label("LblSavedTickets", {6000, 5850, 735, 375}, "Saved Tickets").hidden(),
-    label("LbLchangeDraw", {3480, 5160, 1395, 450}, "Click to change ---> the draw number").back(colors::kYellow).fore(colors::kRed).hidden(),
-    label("LbLchangeTicket", {7020, 5160, 1395, 450}, "<---Click to change the ticket number").back(colors::kYellow).fore(colors::kRed).hidden(),
-    label("LblSaved", {4245, 6360, 3255, 330}, "Ticket has been Saved").back(colors::kPaleYellow).centred().hidden(),
-
-    textBox("TxtNoofLines", {4440, 1440, 2970, 300}, "Click on the last line letter on your ticket").lockedBox().noTabStop().hidden(),
-    label("LblEnterLine", {3225, 1500, 3015, 255}, " Line A -- Enter the 6 Two Digit  numbers").back(kPromptBlue).fore(colors::kWhite).hidden(),
-    label("LblSpaceBar", {8880, 6480, 2655, 615}, "To correct errors  backtrack with the Space Bar").back(kHintOrange).fore(colors::kWhite).hidden(),
-
+  });
+  tickets::insertAfter(controls, "LblSpaceBar", {
     label("LblPwrBall1", {2760, 1155, 510, 345}, "Power   Ball").at(0).centred(),
     label("LblPwrBall1", {11160, 1155, 510, 345}, "Power   Ball").at(1).centred(),
-    textBox("TxtLottoPrizes", {9285, 960, 1815, 285}, "LOTTO PRIZES").font(10, true).centred().lockedBox().noTabStop(),
-    label("LblYouveWon", {4860, 1005, 2295, 600}, "").font(12, true).centred().hidden(),
-    image("ImgMoney", {360, 1800, 2655, 1215}, "money").hidden(),
-    image("ImgCoins", {570, 3720, 2295, 1500}, "coins").hidden(),
-    image("Image1", {450, 5280, 1050, 600}, "powerball"),
-    image("Image2", {1890, 5280, 975, 615}, "lotto"),
-    image("Image3", {8970, 5280, 1050, 600}, "powerball"),
-    image("Image4", {10290, 5280, 975, 615}, "lotto"),
-  };
+  });
   // clang-format on
   for (int k = 1; k <= 6; ++k)
     controls.push_back(textBox("TxtDrawnNumbers2", {120 + (k - 1) * 360, 6960, 350, 300})
@@ -235,11 +199,16 @@ FormDesign veridraw7eDesign() {
   addTicketGrid(controls, game);
   addPowerBallEntry(controls, game.mostLines);
   addPrizeGrid(controls, game);
-  addLineLettersAndButtons(controls, game);
+  tickets::addLettersAndLineButtons(controls, game,
+                                    {.top = kGridTop,
+                                     .height = 250,
+                                     .ticketLeft = 330,
+                                     .prizeLeft = 8730,
+                                     .buttonLeft = 3400,
+                                     .buttonTop = kGridTop + 15},
+                                    kRowStep);
 
-  // The owner's notice at the foot, in front of the spare cells.
-  controls.push_back(pictureButton("CmdNotice", {120, 8160, 2655, 375}, "notice")
-                         .tip("Veridraw is free to use and to share"));
+  tickets::addNotice(controls);
   return form;
 }
 

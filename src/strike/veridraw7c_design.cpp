@@ -13,8 +13,6 @@ constexpr int kGridTop = 1635;  // the top of line A; each line is 285 lower
 constexpr int kRowStep = 285;
 constexpr int kColumnStep = 600;
 constexpr int kHeadTop = 1320;
-constexpr std::int32_t kPromptBlue = 0xC00000;
-constexpr std::int32_t kHintOrange = 0x0040C0;
 
 // The one element of a control array that the designer left off its row.
 void moveElement(std::vector<ControlDesign>& controls, const std::string& name, int index,
@@ -64,47 +62,26 @@ FormDesign veridraw7cDesign() {
   FormDesign form{"Veridraw7c", 11880, 8595, colors::kButtonFace, {}};
   std::vector<ControlDesign>& controls = form.controls;
   const tickets::TicketGame& game = strikeGame();
+  tickets::addTicketControls(controls,
+                             {.deleteLeft = 5475,
+                              .showResultsCaption = "&Click here to Show results",
+                              .changeTicketCaption = "<--- Click to change the ticket number",
+                              .linesPrompt = {4650, 1080, 2775, 315},
+                              .linesPromptCaption = " Click the last line letter on your ticket",
+                              .enterLine = {3090, kGridTop, 3015, 255},
+                              .numbersPerLine = game.cellsPerLine,
+                              .prizesHeading = {8970, 915, 2415, 285},
+                              .prizesHeadingCaption = "STRIKE PRIZES",
+                              .youveWon = {4935, 1005, 2295, 600},
+                              .ballsDrawing = "strike-balls",
+                              .ticketDrawing = "strike-ticket"});
   // clang-format off
-  controls = {
-    button("BtnCheckNewTicket", {4320, 6360, 3255, 325}, "Check &New Ticket").tip("Click to check a New ticket").back(colors::kPaleYellow).hidden().tab(0),
-    button("BtnCheckSavedTickets", {4320, 6720, 3255, 325}, "Check &Saved Ticket").tip("Click to check a Saved ticket").back(colors::kPaleYellow).hidden().tab(1),
-    button("BtnSaveTicket", {4320, 6360, 3255, 325}, "Click to &Save this Ticket").tip("Save ticket").back(colors::kPaleYellow).hidden().tab(2),
-    button("CmdShowResults", {4320, 6720, 3255, 325}, "&Click here to Show results").tip("Display results of winnings").back(colors::kPaleYellow).hidden().tab(3),
-    button("BtnRestart", {4320, 8040, 1085, 375}, "&Main Menu").tip("Restart Veridraw").back(colors::kPaleYellow).tab(4),
-    button("BtnCancel", {5520, 8040, 975, 375}, "&Cancel").tip("Cancel this action").back(colors::kPaleYellow).hidden().tab(5),
-    button("CmdEnd", {6600, 8040, 975, 375}, "E&xit").tip("Exit Veridraw").back(colors::kPaleYellow).tab(6),
-    button("BtnDeleteTicket", {5475, 7560, 1095, 255}, "Delete Ticket").back(colors::kPaleYellow).hidden().tab(7),
-    listBox("List1", {4980, 4560, 735, 1230}).tip("Draw Numbers").hidden().tab(8),
-    listBox("LstLottoTicket", {5805, 4560, 1095, 1230}).tip("Saved Tickets").hidden().tab(9),
-    listBox("List2", {7680, 7200, 1095, 1230}).tip("Saved Tickets").tab(10),
-
+  tickets::insertAfter(controls, "List2", {
     label("lblStrike", {5160, 120, 1695, 705}, "Strike").font(24, true).centred(),
-    label("Label3", {330, 840, 2775, 375}, "Lotto Veridraw").font(12, true),
-    label("LblDraw", {360, 6420, 1815, 255}, "Current Draw Number"),
-    textBox("TxtDrawBox", {2265, 6360, 735, 360}, "").font(12, true).centred().lockedBox().noTabStop(),
+  });
+  tickets::insertAfter(controls, "TxtDrawBox", {
     label("LblStrikeDraw", {960, 6825, 1335, 255}, "Strike Numbers"),
-
-    label("LblSavedTickets2", {7875, 6720, 735, 375}, "Saved Tickets"),
-    label("LblDrawsAvailable", {5040, 5850, 735, 375}, "Draws Entered").hidden(),
-    label("LblSavedTickets", {6000, 5850, 735, 375}, "Saved Tickets").hidden(),
-    label("LbLchangeDraw", {3480, 5160, 1395, 450}, "Click to change ---> the draw number").back(colors::kYellow).fore(colors::kRed).hidden(),
-    label("LbLchangeTicket", {7020, 5160, 1395, 450}, "<--- Click to change the ticket number").back(colors::kYellow).fore(colors::kRed).hidden(),
-    label("LblSaved", {4320, 6360, 3255, 330}, "Ticket has been Saved").back(colors::kPaleYellow).centred().hidden(),
-
-    // Smaller than the text of the other boxes, so that the whole sentence fits its box.
-    textBox("TxtNoofLines", {4650, 1080, 2775, 315}, " Click the last line letter on your ticket").font(7.5).lockedBox().noTabStop().hidden(),
-    label("LblEnterLine", {3090, kGridTop, 3015, 255}, " Line A -- Enter the 4 Two Digit  numbers").back(kPromptBlue).fore(colors::kWhite).hidden(),
-    label("LblSpaceBar", {8880, 6480, 2655, 615}, "To correct errors  backtrack with the Space Bar").back(kHintOrange).fore(colors::kWhite).hidden(),
-
-    textBox("TxtLottoPrizes", {8970, 915, 2415, 285}, "STRIKE PRIZES").font(10, true).centred().lockedBox().noTabStop(),
-    label("LblYouveWon", {4935, 1005, 2295, 600}, "").font(12, true).centred().hidden(),
-    image("ImgMoney", {360, 1800, 2655, 1215}, "money").hidden(),
-    image("ImgCoins", {570, 3720, 2295, 1500}, "coins").hidden(),
-    image("Image1", {450, 5280, 1050, 600}, "strike-balls"),
-    image("Image2", {1890, 5280, 975, 615}, "strike-ticket"),
-    image("Image3", {8970, 5280, 1050, 600}, "strike-balls"),
-    image("Image4", {10290, 5280, 975, 615}, "strike-ticket"),
-  };
+  });
   // clang-format on
   for (int p = 1; p <= game.cellsPerLine; ++p) {
     controls.push_back(textBox("TxtStrikeNumbers2", {960 + (p - 1) * 360, 7080, 350, 300}, "")
@@ -170,25 +147,17 @@ FormDesign veridraw7cDesign() {
   tickets::addGrid(controls, result, game.mostLines, game.cellsPerLine,
                    {9285, kGridTop, kColumnStep, kRowStep});
   moveElement(controls, "IntResult", 46, 4800);
-  const ControlDesign letter = textBox("TextATxt", {390, kGridTop, 300, 285})
-                                   .back(colors::kPaleYellow)
-                                   .border(0)
-                                   .lockedBox()
-                                   .noTabStop();
-  tickets::addLineLetters(controls, letter, game.mostLines, kRowStep);
+  tickets::addLettersAndLineButtons(controls, game,
+                                    {.top = kGridTop,
+                                     .height = 285,
+                                     .ticketLeft = 390,
+                                     .prizeLeft = 8925,
+                                     .buttonLeft = 3360,
+                                     .buttonTop = kGridTop},
+                                    kRowStep);
   moveElement(controls, "TextATxt", 11, 4440);
-  ControlDesign prizeLetter = letter;
-  prizeLetter.name = "TextBTxt";
-  prizeLetter.left = 8925;
-  prizeLetter.visible = false;
-  tickets::addLineLetters(controls, prizeLetter, game.mostLines, kRowStep);
-  tickets::addLineButtons(
-      controls, button("", {3360, kGridTop, 855, 285}, "").back(colors::kPaleYellow).hidden(),
-      game.lineButtons, kRowStep);
 
-  // The owner's notice at the foot, in front of the spare cells.
-  controls.push_back(pictureButton("CmdNotice", {120, 8160, 2655, 375}, "notice")
-                         .tip("Veridraw is free to use and to share"));
+  tickets::addNotice(controls);
   return form;
 }
 

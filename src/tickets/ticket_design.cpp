@@ -1,9 +1,81 @@
 #include "tickets/ticket_design.h"
 
+#include <algorithm>
+#include <iterator>
+#include <stdexcept>
 #include <string>
 #include <utility>
 
 namespace veridraw::tickets {
+
+namespace {
+
+constexpr std::int32_t kPromptBlue = 0xC00000;
+constexpr std::int32_t kHintOrange = 0x0040C0;
+
+}  // namespace
+
+void addTicketControls(std::vector<ControlDesign>& controls, const TicketLook& look) {
+  const int left = look.flowLeft;
+  const std::string enterLine =
+      " Line A -- Enter the " + std::to_string(look.numbersPerLine) + " Two Digit  numbers";
+  // clang-format off
+  const ControlDesign shared[] = {
+    button("BtnCheckNewTicket", {left, 6360, 3255, 325}, "Check &New Ticket").tip("Click to check a New ticket").back(colors::kPaleYellow).hidden().tab(0),
+    button("BtnCheckSavedTickets", {left, 6720, 3255, 325}, "Check &Saved Ticket").tip("Click to check a Saved ticket").back(colors::kPaleYellow).hidden().tab(1),
+    button("BtnSaveTicket", {left, 6360, 3255, 325}, "Click to &Save this Ticket").tip("Save ticket").back(colors::kPaleYellow).hidden().tab(2),
+    button("CmdShowResults", {left, 6720, 3255, 325}, look.showResultsCaption).tip("Display results of winnings").back(colors::kPaleYellow).hidden().tab(3),
+    button("BtnRestart", {left, 8040, 1085, 375}, "&Main Menu").tip("Restart Veridraw").back(colors::kPaleYellow).tab(4),
+    button("BtnCancel", {left + 1200, 8040, 975, 375}, "&Cancel").tip("Cancel this action").back(colors::kPaleYellow).hidden().tab(5),
+    button("CmdEnd", {left + 2280, 8040, 975, 375}, "E&xit").tip("Exit Veridraw").back(colors::kPaleYellow).tab(6),
+    button("BtnDeleteTicket", {look.deleteLeft, 7560, 1095, 255}, "Delete Ticket").back(colors::kPaleYellow).hidden().tab(7),
+    listBox("List1", {4980, 4560, 735, 1230}).tip("Draw Numbers").hidden().tab(8),
+    listBox("LstLottoTicket", {5805, 4560, 1095, 1230}).tip("Saved Tickets").hidden().tab(9),
+    listBox("List2", {7680, 7200, 1095, 1230}).tip("Saved Tickets").tab(10),
+
+    label("Label3", {330, 840, 2775, 375}, "Lotto Veridraw").font(12, true),
+    label("LblDraw", look.drawLabel, "Current Draw Number"),
+    textBox("TxtDrawBox", look.drawBox, look.drawBoxText).font(12, true).centred().lockedBox().noTabStop(),
+
+    label("LblSavedTickets2", {7875, 6720, 735, 375}, "Saved Tickets"),
+    label("LblDrawsAvailable", {5040, 5850, 735, 375}, "Draws Entered").hidden(),
+    label("LblSavedTickets", {6000, 5850, 735, 375}, "Saved Tickets").hidden(),
+    label("LbLchangeDraw", {3480, 5160, 1395, 450}, "Click to change ---> the draw number").back(colors::kYellow).fore(colors::kRed).hidden(),
+    label("LbLchangeTicket", {7020, 5160, 1395, 450}, look.changeTicketCaption).back(colors::kYellow).fore(colors::kRed).hidden(),
+    label("LblSaved", {look.savedLeft, 6360, 3255, 330}, "Ticket has been Saved").back(colors::kPaleYellow).centred().hidden(),
+
+    textBox("TxtNoofLines", look.linesPrompt, look.linesPromptCaption).font(look.linesPromptFont).lockedBox().noTabStop().hidden(),
+    label("LblEnterLine", look.enterLine, enterLine).back(kPromptBlue).fore(colors::kWhite).hidden(),
+    label("LblSpaceBar", {8880, 6480, 2655, 615}, "To correct errors  backtrack with the Space Bar").back(kHintOrange).fore(colors::kWhite).hidden(),
+
+    textBox("TxtLottoPrizes", look.prizesHeading, look.prizesHeadingCaption).font(10, true).centred().lockedBox().noTabStop(),
+    label("LblYouveWon", look.youveWon, "").font(12, true).centred().hidden(),
+    image("ImgMoney", {360, 1800, 2655, 1215}, "money").hidden(),
+    image("ImgCoins", {570, 3720, 2295, 1500}, "coins").hidden(),
+    image("Image1", {450, 5280, 1050, 600}, look.ballsDrawing),
+    image("Image2", {1890, 5280, 975, 615}, look.ticketDrawing),
+    image("Image3", {8970, 5280, 1050, 600}, look.ballsDrawing),
+    image("Image4", {10290, 5280, 975, 615}, look.ticketDrawing),
+  };
+  // clang-format on
+  controls.insert(controls.end(), std::begin(shared), std::end(shared));
+}
+
+void insertAfter(std::vector<ControlDesign>& controls, std::string_view name,
+                 std::vector<ControlDesign> own) {
+  const auto at =
+      std::find_if(controls.begin(), controls.end(),
+                   [name](const ControlDesign& control) { return control.name == name; });
+  if (at == controls.end())
+    throw std::logic_error("no control " + std::string(name) + " in the design");
+  controls.insert(std::next(at), std::make_move_iterator(own.begin()),
+                  std::make_move_iterator(own.end()));
+}
+
+void addNotice(std::vector<ControlDesign>& controls) {
+  controls.push_back(pictureButton("CmdNotice", {120, 8160, 2655, 375}, "notice")
+                         .tip("Veridraw is free to use and to share"));
+}
 
 void addGrid(std::vector<ControlDesign>& controls, const ControlDesign& cell, int lines,
              int perLine, GridLayout layout) {
@@ -36,6 +108,27 @@ void addLineButtons(std::vector<ControlDesign>& controls, const ControlDesign& b
     element.text = std::string("Line &") + LineLetter(line.lines);
     controls.push_back(std::move(element));
   }
+}
+
+void addLettersAndLineButtons(std::vector<ControlDesign>& controls, const TicketGame& game,
+                              LetterColumns columns, int rowStep) {
+  const ControlDesign letter =
+      textBox("TextATxt", {columns.ticketLeft, columns.top, 300, columns.height})
+          .back(colors::kPaleYellow)
+          .border(0)
+          .lockedBox()
+          .noTabStop();
+  addLineLetters(controls, letter, game.mostLines, rowStep);
+  ControlDesign prizeLetter = letter;
+  prizeLetter.name = "TextBTxt";
+  prizeLetter.left = columns.prizeLeft;
+  prizeLetter.visible = false;
+  addLineLetters(controls, prizeLetter, game.mostLines, rowStep);
+  addLineButtons(controls,
+                 button("", {columns.buttonLeft, columns.buttonTop, 855, columns.height}, "")
+                     .back(colors::kPaleYellow)
+                     .hidden(),
+                 game.lineButtons, rowStep);
 }
 
 }  // namespace veridraw::tickets
