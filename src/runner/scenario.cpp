@@ -1,14 +1,12 @@
 #include "runner/scenario.h"
 
 #include <cctype>
-#include <cmath>
 #include <cstdlib>
 #include <fstream>
 #include <iterator>
-#include <random>
-#include <sstream>
 
 #include "runner/delivered_files.h"
+#include "runner/scenario_words.h"
 #include "runner/values.h"
 #include "shell/program.h"
 
@@ -25,44 +23,6 @@ fs::path makeTemporaryDirectory() {
   return pattern;
 }
 
-void expectWords(const std::vector<Token>& words, std::size_t count, const char* usage) {
-  if (words.size() != count) throw ScenarioFailure(std::string("usage: ") + usage);
-}
-
-// The index of an element of a control array: decimal digits, optionally
-// after a minus.
-int parseIndex(std::string_view text) {
-  const std::size_t firstDigit = !text.empty() && text[0] == '-' ? 1 : 0;
-  if (firstDigit >= text.size() || text.size() - firstDigit > 6)
-    throw ScenarioFailure("bad index: " + std::string(text));
-  for (std::size_t i = firstDigit; i < text.size(); ++i)
-    if (!std::isdigit(static_cast<unsigned char>(text[i])))
-      throw ScenarioFailure("bad index: " + std::string(text));
-  return std::stoi(std::string(text));
-}
-
-// A whole number written as a value: decimal, optionally negative, or 0x hex.
-int parseInteger(const Token& token, const char* what) {
-  const Value value = token.quoted ? Value(token.text) : parseValue(token);
-  const double* number = std::get_if<double>(&value);
-  if (number == nullptr || *number != std::floor(*number) || *number < -2147483648.0 ||
-      *number > 2147483647.0)
-    throw ScenarioFailure(std::string(what) + " wants a whole number, not " +
-                          (token.quoted ? quote(token.text) : token.text));
-  return static_cast<int>(*number);
-}
-
-// A file name in the notation of the scenario language: a word, or a string
-// when it holds blanks or bytes that a word can't.
-std::string nameText(const std::string& name) {
-  if (name.empty()) return quote(name);
-  for (const char c : name) {
-    const auto byte = static_cast<unsigned char>(c);
-    if (byte <= 0x20 || byte >= 0x7F || c == '"' || c == '\\') return quote(name);
-  }
-  return name;
-}
-
 const std::map<std::string, Key>& keyNames() {
   static const std::map<std::string, Key> names = {
       {"Enter", Key::Enter},        {"Space", Key::Space},         {"Tab", Key::Tab},
@@ -72,21 +32,6 @@ const std::map<std::string, Key>& keyNames() {
       {"Escape", Key::Escape},
   };
   return names;
-}
-
-std::string stateText(const Application& program) {
-  switch (program.state()) {
-    case Application::State::NotStarted:
-      return "not started";
-    case Application::State::Running:
-      return "running";
-    case Application::State::Ended:
-      return "ended";
-    case Application::State::Fatal:
-      return "ended by fatal error " + std::to_string(program.fatalError()->number()) + " (" +
-             program.fatalError()->text() + ")";
-  }
-  return "";
 }
 
 // A reason fits on the one line of its FAIL: line ends that it quotes from a
@@ -351,168 +296,6 @@ void Scenario::close(const Words& words) {
   runningProgram("close the window");
   program_->closeWindow();
   afterAction();
-}
-
-std::string Scenario::focusName() const {
-  const Control* focused = program_ && program_->running() ? program_->focus() : nullptr;
-  return focused == nullptr ? "none" : focused->displayName();
-}
-
-void Scenario::expect(const Words& words) {
-  if (words.size() < 2) throw ScenarioFailure("usage: expect WHAT ...");
-  const std::string& what = words[1].text;
-  if (words[1].quoted) throw ScenarioFailure("expect what? " + quote(what));
-  if (what == "form") {
-    expectWords(words, 3, "expect form NAME");
-    const Form& form = formOf(Target{});
-    if (form.name() != words[2].text)
-      throw ScenarioFailure("expected form " + words[2].text + ", found " + form.name());
-  } else if (what == "focus") {
-    expectWords(words, 3, "expect focus TARGET");
-    Control& wanted = resolveOne(words[2].text);
-    if (program_->focus() != &wanted)
-      throw ScenarioFailure("expected the focus on " + wanted.displayName() + ", found it on " +
-                            focusName());
-  } else if (what == "items") {
-    if (words.size() < 3) throw ScenarioFailure("usage: expect items TARGET \"A\" ...");
-    Control& list = resolveOne(words[2].text);
-    if (list.kind() != ControlKind::ListBox)
-      throw ScenarioFailure(words[2].text + " isn't a list box");
-    std::vector<std::string> wanted;
-    for (std::size_t i = 3; i < words.size(); ++i)
-      wanted.push_back(words[i].text);
-    if (wanted != list.items()) {
-      std::string expected, found;
-      for (const auto& item : wanted)
-        expected += " " + quote(item);
-      for (const auto& item : list.items())
-        found += " " + quote(item);
-      throw ScenarioFailure("expected items" + (expected.empty() ? " (none)" : expected) +
-                            ", found" + (found.empty() ? " (none)" : found));
-    }
-  } else if (what == "msgbox" || what == "inputbox") {
-    expectDialog(words);
-  } else if (what == "nodialog") {
-    expectWords(words, 2, "expect nodialog");
-    DialogShown dialog;
-    if (dialogs_.takeUnchecked(dialog))
-      throw ScenarioFailure("expected no unchecked dialog, found " + describe(dialog));
-  } else if (what == "file") {
-    expectWords(words, 4, "expect file NAME \"CONTENT\"");
-    if (!fs::is_regular_file(pathOf(words[2].text)))
-      throw ScenarioFailure("expected file " + quote(words[2].text) + ", found no such file");
-    const std::string found = fileContent(words[2].text);
-    if (found != words[3].text)
-      throw ScenarioFailure("expected file " + quote(words[2].text) + " to hold " +
-                            quote(words[3].text) + ", found " + quote(found));
-  } else if (what == "nofile") {
-    expectWords(words, 3, "expect nofile NAME");
-    if (fs::exists(pathOf(words[2].text)))
-      throw ScenarioFailure("expected no file " + quote(words[2].text) + ", found one holding " +
-                            quote(fileContent(words[2].text)));
-  } else if (what == "running" || what == "ended") {
-    expectWords(words, 2, "expect running, or expect ended");
-    const auto wanted = what == "running" ? Application::State::Running : Application::State::Ended;
-    if (!program_ || program_->state() != wanted)
-      throw ScenarioFailure("expected the program " + what + ", found it " +
-                            (program_ ? stateText(*program_) : "not started"));
-  } else if (what == "fatal") {
-    expectWords(words, 3, "expect fatal N");
-    const int wanted = parseInteger(words[2], "expect fatal");
-    if (!program_ || program_->state() != Application::State::Fatal ||
-        program_->fatalError()->number() != wanted)
-      throw ScenarioFailure("expected fatal error " + std::to_string(wanted) +
-                            ", found the program " +
-                            (program_ ? stateText(*program_) : "not started"));
-  } else {
-    expectProperty(words);
-  }
-}
-
-void Scenario::expectDialog(const Words& words) {
-  const bool isMessage = words[1].text == "msgbox";
-  if (isMessage) {
-    expectWords(words, 5, "expect msgbox \"PROMPT\" BUTTONS \"TITLE\"");
-  } else {
-    expectWords(words, 7, "expect inputbox \"PROMPT\" \"TITLE\" \"DEFAULT\" X Y");
-  }
-  DialogShown wanted;
-  if (isMessage) {
-    wanted = MessageBoxShown{words[2].text, parseInteger(words[3], "BUTTONS"), words[4].text};
-  } else {
-    wanted = InputBoxShown{words[2].text, words[3].text, words[4].text, parseInteger(words[5], "X"),
-                           parseInteger(words[6], "Y")};
-  }
-  DialogShown found;
-  if (!dialogs_.takeUnchecked(found))
-    throw ScenarioFailure("expected " + describe(wanted) + ", found no unchecked dialog");
-  if (describe(found) != describe(wanted))
-    throw ScenarioFailure("expected " + describe(wanted) + ", found " + describe(found));
-}
-
-void Scenario::expectProperty(const Words& words) {
-  expectWords(words, 3, "expect TARGET.PROPERTY VALUE");
-  const std::string& text = words[1].text;
-  const std::size_t dot = text.rfind('.');
-  if (dot == std::string::npos || dot + 1 == text.size())
-    throw ScenarioFailure("expect what? " + text);
-  const std::string property = text.substr(dot + 1);
-  const Value wanted = parseValue(words[2]);
-  for (Control* control : resolve(parseTarget(text.substr(0, dot)))) {
-    const std::optional<Value> found = readProperty(*control, property);
-    if (!found) throw ScenarioFailure(control->displayName() + " has no property " + property);
-    if (!sameValue(wanted, *found)) {
-      const bool colour = isColourProperty(property);
-      throw ScenarioFailure("expected " + control->displayName() + "." + property + " " +
-                            formatValue(wanted, colour) + ", found " + formatValue(*found, colour));
-    }
-  }
-}
-
-std::string Scenario::describeProperty(const std::string& text) const {
-  const std::size_t dot = text.rfind('.');
-  if (dot == std::string::npos) throw ScenarioFailure("print what? " + text);
-  const std::string property = text.substr(dot + 1);
-  std::string lines;
-  for (Control* control : resolve(parseTarget(text.substr(0, dot)))) {
-    const std::optional<Value> found = readProperty(*control, property);
-    if (!found) throw ScenarioFailure(control->displayName() + " has no property " + property);
-    lines += control->displayName() + "." + property + " " +
-             formatValue(*found, isColourProperty(property)) + "\n";
-  }
-  return lines;
-}
-
-void Scenario::print(const Words& words) {
-  if (words.size() < 2) throw ScenarioFailure("usage: print WHAT");
-  const std::string& what = words[1].text;
-  if (what == "focus") {
-    out_ << "focus " << focusName() << "\n";
-  } else if (what == "form") {
-    const bool onScreen = program_ && program_->running() && program_->activeForm() != nullptr;
-    out_ << "form " << (onScreen ? program_->activeForm()->name() : "none") << "\n";
-  } else if (what == "items") {
-    expectWords(words, 3, "print items TARGET");
-    Control& list = resolveOne(words[2].text);
-    if (list.kind() != ControlKind::ListBox)
-      throw ScenarioFailure(words[2].text + " isn't a list box");
-    out_ << "items " << words[2].text;
-    for (const auto& item : list.items())
-      out_ << " " << quote(item);
-    out_ << "\n";
-  } else if (what == "file") {
-    expectWords(words, 3, "print file NAME");
-    const std::string& name = words[2].text;
-    if (fs::is_regular_file(pathOf(name))) {
-      out_ << "file " << nameText(name) << " " << quote(fileContent(name)) << "\n";
-    } else {
-      out_ << "nofile " << nameText(name) << "\n";
-    }
-  } else {
-    expectWords(words, 2, "print TARGET.PROPERTY");
-    out_ << describeProperty(what);
-  }
-  out_.flush();
 }
 
 ScenarioResult runScenario(std::istream& in, std::ostream& out, bool verbose) {
