@@ -1,6 +1,6 @@
 #include "draws/veridraw7f.h"
 
-#include "draws/number_cell.h"
+#include "store/number_cell.h"
 #include "screen/strings.h"
 #include "store/probes.h"
 

@@ -1,6 +1,6 @@
 // The confirmation of an entry: Yes writes the draw, No empties the cells for
 // a second try.
-#include "draws/number_cell.h"
+#include "store/number_cell.h"
 #include "draws/veridraw7f.h"
 #include "screen/strings.h"
 

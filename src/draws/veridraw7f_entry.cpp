@@ -1,19 +1,11 @@
 // The digit-by-digit entry of the draw screen: the Change handlers of the Lotto
 // and Strike cells, which rescan every cell at each change and run nested
 // inside the assignments of Text that they make themselves.
-#include "draws/number_cell.h"
 #include "draws/veridraw7f.h"
 #include "screen/strings.h"
+#include "store/number_cell.h"
 
 namespace veridraw {
-
-namespace {
-
-constexpr const char* kWarningTitle = "WARNING";
-constexpr const char* kRangeMessage = "You Must enter a Number between 1 and 40";
-constexpr const char* kDuplicateMessage = "This is an incorrect number";
-
-}  // namespace
 
 // The Lotto scan runs over the eight cells and the spare cell 9 that takes the
 // focus at the end; the PowerBall cell may repeat any number.
@@ -121,7 +113,7 @@ void Veridraw7f::SearchDuplicates(const EntryRules& rules) {
       const double first = Val(cells(PairFirst).text());
       const double second = Val(cells(PairSecond).text());
       const double current = Val(cells(CellIndex).text());
-      if (first == second || current == first) RefuseNumber(rules, kDuplicateMessage, true);
+      if (first == second || current == first) RefuseNumber(rules, kIncorrectNumberMessage, true);
     }
   }
 }

@@ -19,13 +19,10 @@ namespace {
 constexpr const char* kQuestion = "Is the PowerBall number the same for all lines";
 constexpr const char* kOneNumberPrompt = "Enter the 2 Digit PowerBall Number";
 constexpr const char* kFirstLinePrompt = "Line A -- Enter the Two Digit PowerBall Number";
-constexpr const char* kRangeMessage = "You Must enter a Number between 01 and 08";
-constexpr const char* kStepBack = "  ";
-constexpr const char* kEmptyCell = " ";
+constexpr const char* kPowerBallRangeMessage = "You Must enter a Number between 01 and 08";
 constexpr int kLowestPowerBall = 1;
 constexpr int kHighestPowerBall = 8;
 constexpr int kAnswerTop = 2000;
-constexpr int kPromptBlue = 0xC00000;
 constexpr int kGridTop = 1500;
 constexpr int kRowStep = 255;
 // The cover box of the column; tickets of 13 and 14 lines go without it.
@@ -57,7 +54,7 @@ void Veridraw7e::BtnYes_Click() {
   BtnNo->setVisible(false);
   TxtNoofLines->setLeft(4000);
   TxtNoofLines->setWidth(2800);
-  TxtNoofLines->setBackColor(kPromptBlue);
+  TxtNoofLines->setBackColor(colors::kDarkBlue);
   TxtNoofLines->setForeColor(colors::kWhite);
   TxtNoofLines->setText(kOneNumberPrompt);
   TxtPwrBallNumber(1).setVisible(true);
@@ -100,7 +97,7 @@ void Veridraw7e::TxtPowerBall_Change() {
   while (CurrentCell <= limit && CurrentCell != LineCount + 2) {
     PowerBallBacktrack(TxtPowerBall);
     PowerBallRange(TxtPowerBall, colors::kWhite);
-    if (Len(TxtPowerBall(CurrentCell).text()) == tickets::kCompleteCell) {
+    if (Len(TxtPowerBall(CurrentCell).text()) == kCompleteCell) {
       AdvanceCell(TxtPowerBall, [this] { PBEntBox(); });
       if (CurrentCell == LineCount) FinishPowerBallEntry();
     }
@@ -114,7 +111,7 @@ void Veridraw7e::TxtPwrBallNumber_Change() {
   for (CurrentCell = 1; CurrentCell <= 2; CurrentCell = CurrentCell + 1) {
     PowerBallBacktrack(TxtPwrBallNumber);
     PowerBallRange(TxtPwrBallNumber, colors::kGreen);
-    if (Len(TxtPwrBallNumber(CurrentCell).text()) == tickets::kCompleteCell) {
+    if (Len(TxtPwrBallNumber(CurrentCell).text()) == kCompleteCell) {
       TxtPwrBallNumber(CurrentCell + 1).setLocked(false);
       TxtPwrBallNumber(CurrentCell + 1).SetFocus();
       TxtPwrBallNumber(CurrentCell).setLocked(true);
@@ -126,7 +123,7 @@ void Veridraw7e::TxtPwrBallNumber_Change() {
 // The space bar in an empty cell empties the cell before it too, and puts the
 // cursor there. Not in the first cell, so in the one box it takes nothing back.
 void Veridraw7e::PowerBallBacktrack(const ControlArray& cells) {
-  if (cells(CurrentCell).text() != kStepBack || CurrentCell == 1) return;
+  if (cells(CurrentCell).text() != kStepBackCell || CurrentCell == 1) return;
   cells(CurrentCell - 1).setLocked(false);
   cells(CurrentCell - 1).SetFocus();
   cells(CurrentCell - 1).setText(kEmptyCell);
@@ -138,8 +135,8 @@ void Veridraw7e::PowerBallBacktrack(const ControlArray& cells) {
 void Veridraw7e::PowerBallRange(const ControlArray& cells, std::int32_t backAfterWarning) {
   const double value = Val(cells(CurrentCell).text());
   if (value > kHighestPowerBall ||
-      (value < kLowestPowerBall && Len(cells(CurrentCell).text()) == tickets::kCompleteCell))
-    RefuseCell(cells(CurrentCell), kRangeMessage, backAfterWarning);
+      (value < kLowestPowerBall && Len(cells(CurrentCell).text()) == kCompleteCell))
+    RefuseCell(cells(CurrentCell), kPowerBallRangeMessage, backAfterWarning);
 }
 
 // The last line's PowerBall number is in: the ticket is checked against the

@@ -20,6 +20,8 @@ inline constexpr std::int32_t kBlue = 0xFF0000;
 inline constexpr std::int32_t kGreen = 0x008000;
 inline constexpr std::int32_t kYellow = 0x00FFFF;
 inline constexpr std::int32_t kNavy = 0x800000;
+inline constexpr std::int32_t kDarkBlue = 0xC00000;
+inline constexpr std::int32_t kOrange = 0x0040C0;
 inline constexpr std::int32_t kPaleYellow = 0xC0FFFF;
 inline constexpr std::int32_t kGrey = 0xC0C0C0;
 // The face colour of windows, buttons and labels that were given no colour.

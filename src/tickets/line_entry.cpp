@@ -17,16 +17,6 @@
 
 namespace veridraw::tickets {
 
-namespace {
-
-constexpr const char* kRangeMessage = "You Must enter a Number between 1 and 40";
-constexpr const char* kOrderMessage = "This is an incorrect number";
-constexpr const char* kWarningTitle = "WARNING";
-constexpr const char* kStepBack = "  ";  // the space bar in an empty cell
-constexpr const char* kEmptyCell = " ";
-
-}  // namespace
-
 // All the line buttons do the same with their own numbers. Only the button of
 // the longest ticket parks the cover grey: its spare cell lies at the foot of
 // the screen, behind the notice.
@@ -90,7 +80,7 @@ void TicketScreen::LineA_Change() {
 // The space bar in an empty cell empties the cell before it, and gives it the
 // focus. Cell 1 has no cell before it, and its two blanks stay.
 void TicketScreen::BacktrackTest() {
-  if (CurrentCell == 1 || LineA(CurrentCell).text() != kStepBack) return;
+  if (CurrentCell == 1 || LineA(CurrentCell).text() != kStepBackCell) return;
   LineA(CurrentCell - 1).setLocked(false);
   LineA(CurrentCell - 1).SetFocus();
   LineA(CurrentCell - 1).setText(kEmptyCell);
@@ -99,10 +89,7 @@ void TicketScreen::BacktrackTest() {
 
 // A value above 40 is refused at once; one below 1 when the cell is complete.
 void TicketScreen::RangeTest() {
-  const double value = CellValue(CurrentCell);
-  if (value > kHighestNumber ||
-      (Len(LineA(CurrentCell).text()) == kCompleteCell && value < kLowestNumber))
-    Refuse(kRangeMessage, game_.rangeRefusalShowsPrompt);
+  if (IsOutOfRange(LineA(CurrentCell).text())) Refuse(kRangeMessage, game_.rangeRefusalShowsPrompt);
 }
 
 // Each pair of cells from the start of the line up to the complete cell must be
@@ -114,7 +101,7 @@ void TicketScreen::OrderTest() {
     const int lastSecond = CurrentCell;
     for (OrderSecond = OrderFirst + 1; OrderSecond <= lastSecond; OrderSecond = OrderSecond + 1) {
       if (LineA(OrderFirst).text() == kEmptyCell && LineA(OrderSecond).text() == kEmptyCell) return;
-      if (OutOfOrder()) Refuse(kOrderMessage);
+      if (OutOfOrder()) Refuse(kIncorrectNumberMessage);
     }
   }
 }

@@ -8,13 +8,6 @@
 
 namespace veridraw::tickets {
 
-namespace {
-
-constexpr std::int32_t kPromptBlue = 0xC00000;
-constexpr std::int32_t kHintOrange = 0x0040C0;
-
-}  // namespace
-
 void addTicketControls(std::vector<ControlDesign>& controls, const TicketLook& look) {
   const int left = look.flowLeft;
   const std::string enterLine =
@@ -45,8 +38,8 @@ void addTicketControls(std::vector<ControlDesign>& controls, const TicketLook& l
     label("LblSaved", {look.savedLeft, 6360, 3255, 330}, "Ticket has been Saved").back(colors::kPaleYellow).centred().hidden(),
 
     textBox("TxtNoofLines", look.linesPrompt, look.linesPromptCaption).font(look.linesPromptFont).lockedBox().noTabStop().hidden(),
-    label("LblEnterLine", look.enterLine, enterLine).back(kPromptBlue).fore(colors::kWhite).hidden(),
-    label("LblSpaceBar", {8880, 6480, 2655, 615}, "To correct errors  backtrack with the Space Bar").back(kHintOrange).fore(colors::kWhite).hidden(),
+    label("LblEnterLine", look.enterLine, enterLine).back(colors::kDarkBlue).fore(colors::kWhite).hidden(),
+    label("LblSpaceBar", {8880, 6480, 2655, 615}, "To correct errors  backtrack with the Space Bar").back(colors::kOrange).fore(colors::kWhite).hidden(),
 
     textBox("TxtLottoPrizes", look.prizesHeading, look.prizesHeadingCaption).font(10, true).centred().lockedBox().noTabStop(),
     label("LblYouveWon", look.youveWon, "").font(12, true).centred().hidden(),

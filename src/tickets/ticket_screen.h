@@ -15,6 +15,7 @@
 #include "screen/form.h"
 #include "screen/integer.h"
 #include "store/draw_store.h"
+#include "store/number_cell.h"
 #include "store/ticket_store.h"
 #include "tickets/ticket_game.h"
 
@@ -25,10 +26,6 @@ inline constexpr const char* kSavedTicketsHint =
     "To check saved tickets  Click on the Draw Number and then the Ticket Number";
 inline constexpr const char* kNoNumbersMessage = "No numbers have been entered for this draw";
 inline constexpr const char* kNoSavedTickets = "There are no Saved Tickets";
-inline constexpr int kLowestNumber = 1;
-inline constexpr int kHighestNumber = 40;
-// A cell whose text has this length is complete: two characters and the blank.
-inline constexpr int kCompleteCell = 3;
 // Heights of LblSpaceBar for a message of one line and of two.
 inline constexpr int kOneMessageHeight = 615;
 inline constexpr int kTwoMessagesHeight = 880;

@@ -1,4 +1,4 @@
-#include "draws/number_cell.h"
+#include "store/number_cell.h"
 
 #include <gtest/gtest.h>
 

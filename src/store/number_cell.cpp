@@ -1,11 +1,11 @@
-#include "draws/number_cell.h"
+#include "store/number_cell.h"
 
 #include "screen/strings.h"
 
 namespace veridraw {
 
 bool IsFullCell(const std::string& text) {
-  return Len(text) == 3;
+  return Len(text) == kCompleteCell;
 }
 
 bool IsOutOfRange(const std::string& text) {
