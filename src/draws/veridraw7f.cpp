@@ -1,7 +1,7 @@
 #include "draws/veridraw7f.h"
 
-#include "store/number_cell.h"
 #include "screen/strings.h"
+#include "store/number_cell.h"
 #include "store/probes.h"
 
 namespace veridraw {

@@ -1,8 +1,8 @@
 // The confirmation of an entry: Yes writes the draw, No empties the cells for
 // a second try.
-#include "store/number_cell.h"
 #include "draws/veridraw7f.h"
 #include "screen/strings.h"
+#include "store/number_cell.h"
 
 namespace veridraw {
 
