@@ -11,6 +11,7 @@
 // spare elements are for.
 #include "powerball/veridraw7e.h"
 #include "screen/strings.h"
+#include "tickets/ticket_design.h"
 
 namespace veridraw {
 
@@ -23,8 +24,6 @@ constexpr const char* kPowerBallRangeMessage = "You Must enter a Number between 
 constexpr int kLowestPowerBall = 1;
 constexpr int kHighestPowerBall = 8;
 constexpr int kAnswerTop = 2000;
-constexpr int kGridTop = 1500;
-constexpr int kRowStep = 255;
 // The cover box of the column; tickets of 13 and 14 lines go without it.
 constexpr int kPowerBallCover = 17;
 constexpr int kLongestCoveredTicket = 12;
@@ -70,7 +69,7 @@ void Veridraw7e::BtnNo_Click() {
   BtnNo->setVisible(false);
   TxtNoofLines->setVisible(false);
   LblEnterLine->setCaption(kFirstLinePrompt);
-  LblEnterLine->setTop(kGridTop);
+  LblEnterLine->setTop(tickets::kLottoGridTop);
   LblEnterLine->setWidth(3500);
   LblEnterLine->setVisible(true);
   TxtPowerBall(1).setLocked(false);
@@ -199,7 +198,7 @@ void Veridraw7e::PBEntBox() {
 // down in the button row.
 void Veridraw7e::PwrBallBox() {
   if (LineCount > kLongestCoveredTicket) return;
-  TxtPowerBall(kPowerBallCover).setTop(kGridTop + LineCount * kRowStep);
+  TxtPowerBall(kPowerBallCover).setTop(tickets::kLottoGridTop + LineCount * tickets::kLottoRowStep);
   TxtPowerBall(kPowerBallCover).setVisible(true);
 }
 

@@ -12,9 +12,6 @@ namespace veridraw {
 
 namespace {
 
-constexpr int kGridTop = 1500;
-constexpr int kRowStep = 255;
-constexpr int kColumnStep = 300;
 constexpr int kPrizeRowStep = 300;
 constexpr int kSpareTop = 8205;
 
@@ -62,8 +59,9 @@ void addPrizeRows(std::vector<ControlDesign>& controls, int rows) {
 // The number cells, their spare cells behind the notice and the cover box.
 void addTicketGrid(std::vector<ControlDesign>& controls, const tickets::TicketGame& game) {
   const ControlDesign cell = textBox("LineA", {0, 0, 300, 250}).centred().noTabStop().hidden();
-  tickets::addGrid(controls, cell, game.mostLines, game.cellsPerLine,
-                   {765, kGridTop, kColumnStep, kRowStep});
+  tickets::addGrid(
+      controls, cell, game.mostLines, game.cellsPerLine,
+      {765, tickets::kLottoGridTop, tickets::kLottoColumnStep, tickets::kLottoRowStep});
   const int spareLefts[] = {1680, 2040, 2400};
   for (int spare = 1; spare <= 3; ++spare)
     controls.push_back(textBox("LineA", {spareLefts[spare - 1], kSpareTop, 300, 285})
@@ -85,12 +83,14 @@ void addTicketGrid(std::vector<ControlDesign>& controls, const tickets::TicketGa
 // visible behind the notice from the start.
 void addPowerBallEntry(std::vector<ControlDesign>& controls, int lines) {
   for (int line = 1; line <= lines; ++line)
-    controls.push_back(textBox("TxtPowerBall", {2760, kGridTop + (line - 1) * kRowStep, 350, 250})
-                           .at(line)
-                           .font(8.25, true)
-                           .centred()
-                           .noTabStop()
-                           .hidden());
+    controls.push_back(
+        textBox("TxtPowerBall",
+                {2760, tickets::kLottoGridTop + (line - 1) * tickets::kLottoRowStep, 350, 250})
+            .at(line)
+            .font(8.25, true)
+            .centred()
+            .noTabStop()
+            .hidden());
   const int spareLefts[] = {360, 600};
   for (int spare = 1; spare <= 2; ++spare)
     controls.push_back(textBox("TxtPowerBall", {spareLefts[spare - 1], kSpareTop, 250, 285})
@@ -130,13 +130,15 @@ void addPrizeGrid(std::vector<ControlDesign>& controls, const tickets::TicketGam
                                    .border(0)
                                    .centred()
                                    .noTabStop();
-  tickets::addGrid(controls, result, game.mostLines, game.cellsPerLine,
-                   {9210, kGridTop, kColumnStep, kRowStep});
+  tickets::addGrid(
+      controls, result, game.mostLines, game.cellsPerLine,
+      {9210, tickets::kLottoGridTop, tickets::kLottoColumnStep, tickets::kLottoRowStep});
   for (ControlDesign& design : controls)
     if (design.name == "IntResult" && design.index == 73) design.left = 9240;
   for (int line = 1; line <= game.mostLines; ++line) {
     ControlDesign column =
-        textBox("TxtPwrBall", {11160, kGridTop + (line - 1) * kRowStep, 350, 250})
+        textBox("TxtPwrBall",
+                {11160, tickets::kLottoGridTop + (line - 1) * tickets::kLottoRowStep, 350, 250})
             .at(line)
             .back(colors::kPaleYellow)
             .border(0)
@@ -200,13 +202,13 @@ FormDesign veridraw7eDesign() {
   addPowerBallEntry(controls, game.mostLines);
   addPrizeGrid(controls, game);
   tickets::addLettersAndLineButtons(controls, game,
-                                    {.top = kGridTop,
+                                    {.top = tickets::kLottoGridTop,
                                      .height = 250,
                                      .ticketLeft = 330,
                                      .prizeLeft = 8730,
                                      .buttonLeft = 3400,
-                                     .buttonTop = kGridTop + 15},
-                                    kRowStep);
+                                     .buttonTop = tickets::kLottoGridTop + 15},
+                                    tickets::kLottoRowStep);
 
   tickets::addNotice(controls);
   return form;

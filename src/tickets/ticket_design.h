@@ -54,6 +54,12 @@ void insertAfter(std::vector<ControlDesign>& controls, std::string_view name,
 void addNotice(std::vector<ControlDesign>& controls);
 
 // Where element 1 of a grid stands, and how far apart its columns and rows are.
+// The grid of a Lotto ticket, which the PowerBall screen has too: rows of cells
+// 300 twips apart, lines 255 apart, line A at the top.
+inline constexpr int kLottoGridTop = 1500;
+inline constexpr int kLottoRowStep = 255;
+inline constexpr int kLottoColumnStep = 300;
+
 struct GridLayout {
   int left = 0;
   int top = 0;

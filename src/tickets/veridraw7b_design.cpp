@@ -6,14 +6,6 @@
 
 namespace veridraw {
 
-namespace {
-
-constexpr int kGridTop = 1500;
-constexpr int kRowStep = 255;
-constexpr int kColumnStep = 300;
-
-}  // namespace
-
 const tickets::TicketGame& lottoGame() {
   static const tickets::TicketGame game{
       .cellArray = "LineA",
@@ -77,8 +69,9 @@ FormDesign veridraw7bDesign() {
   }
 
   const ControlDesign cell = textBox("LineA", {0, 0, 300, 250}).centred().noTabStop().hidden();
-  tickets::addGrid(controls, cell, game.mostLines, game.cellsPerLine,
-                   {885, kGridTop, kColumnStep, kRowStep});
+  tickets::addGrid(
+      controls, cell, game.mostLines, game.cellsPerLine,
+      {885, tickets::kLottoGridTop, tickets::kLottoColumnStep, tickets::kLottoRowStep});
   // The spare cells after the grid, the box that no code uses, and the cover.
   const int spareLefts[] = {480, 840, 1200};
   for (int spare = 1; spare <= 3; ++spare)
@@ -101,16 +94,17 @@ FormDesign veridraw7bDesign() {
                                    .border(0)
                                    .centred()
                                    .noTabStop();
-  tickets::addGrid(controls, result, game.mostLines, game.cellsPerLine,
-                   {9450, kGridTop, kColumnStep, kRowStep});
+  tickets::addGrid(
+      controls, result, game.mostLines, game.cellsPerLine,
+      {9450, tickets::kLottoGridTop, tickets::kLottoColumnStep, tickets::kLottoRowStep});
   tickets::addLettersAndLineButtons(controls, game,
-                                    {.top = kGridTop,
+                                    {.top = tickets::kLottoGridTop,
                                      .height = 250,
                                      .ticketLeft = 450,
                                      .prizeLeft = 8970,
                                      .buttonLeft = 3360,
-                                     .buttonTop = kGridTop},
-                                    kRowStep);
+                                     .buttonTop = tickets::kLottoGridTop},
+                                    tickets::kLottoRowStep);
 
   tickets::addNotice(controls);
   return form;
