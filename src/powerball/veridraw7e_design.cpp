@@ -69,13 +69,7 @@ void addTicketGrid(std::vector<ControlDesign>& controls, const tickets::TicketGa
                            .centred()
                            .noTabStop()
                            .hidden());
-  controls.push_back(textBox("LineA", {720, 7560, 420, 285})
-                         .at(game.coverCell())
-                         .back(colors::kPaleYellow)
-                         .border(0)
-                         .lockedBox()
-                         .noTabStop()
-                         .hidden());
+  controls.push_back(tickets::coverBox(game, {720, 7560, 420, 285}));
 }
 
 // The PowerBall column of the ticket, one cell a line, its two spare cells and

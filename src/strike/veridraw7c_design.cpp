@@ -131,13 +131,7 @@ FormDesign veridraw7cDesign() {
                            .centred()
                            .noTabStop()
                            .hidden());
-  controls.push_back(textBox("TxtStrike", {830, 7560, 1740, 300})
-                         .at(game.coverCell())
-                         .back(colors::kPaleYellow)
-                         .border(0)
-                         .lockedBox()
-                         .noTabStop()
-                         .hidden());
+  controls.push_back(tickets::coverBox(game, {830, 7560, 1740, 300}));
 
   const ControlDesign result = textBox("IntResult", {0, 0, 300, 285})
                                    .back(colors::kPaleYellow)

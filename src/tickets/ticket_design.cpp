@@ -8,6 +8,16 @@
 
 namespace veridraw::tickets {
 
+ControlDesign coverBox(const TicketGame& game, Place place) {
+  return textBox(game.cellArray, place)
+      .at(game.coverCell())
+      .back(colors::kPaleYellow)
+      .border(0)
+      .lockedBox()
+      .noTabStop()
+      .hidden();
+}
+
 void addTicketControls(std::vector<ControlDesign>& controls, const TicketLook& look) {
   const int left = look.flowLeft;
   const std::string enterLine =

@@ -53,6 +53,10 @@ void insertAfter(std::vector<ControlDesign>& controls, std::string_view name,
 // that it stands in front of the spare cells.
 void addNotice(std::vector<ControlDesign>& controls);
 
+// The cover box of a game's grid: it hides the spare cell after the ticket, on
+// which the focus is parked when the ticket is complete.
+ControlDesign coverBox(const TicketGame& game, Place place);
+
 // Where element 1 of a grid stands, and how far apart its columns and rows are.
 // The grid of a Lotto ticket, which the PowerBall screen has too: rows of cells
 // 300 twips apart, lines 255 apart, line A at the top.

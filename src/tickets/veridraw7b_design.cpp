@@ -81,13 +81,7 @@ FormDesign veridraw7bDesign() {
                            .noTabStop()
                            .hidden());
   controls.push_back(textBox("LineA", {120, 8230, 300, 285}).at(0).noTabStop().hidden());
-  controls.push_back(textBox("LineA", {840, 7440, 420, 285})
-                         .at(game.coverCell())
-                         .back(colors::kPaleYellow)
-                         .border(0)
-                         .lockedBox()
-                         .noTabStop()
-                         .hidden());
+  controls.push_back(tickets::coverBox(game, {840, 7440, 420, 285}));
 
   const ControlDesign result = textBox("IntResult", {0, 0, 300, 250})
                                    .back(colors::kPaleYellow)
