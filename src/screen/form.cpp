@@ -88,10 +88,6 @@ void Form::on(const std::string& controlName, Event event, std::function<void()>
   handlers_[{controlName, event}] = [handler = std::move(handler)](int) { handler(); };
 }
 
-bool Form::hasHandler(const std::string& name, Event event) const {
-  return handlers_.count({name, event}) > 0;
-}
-
 void Form::raise(Event event, Control& control) {
   const auto handler = handlers_.find({control.name(), event});
   if (handler == handlers_.end()) return;

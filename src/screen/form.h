@@ -61,7 +61,6 @@ class Form {
 
   // Runs the handler of that control and event, if the form has one.
   void raise(Event event, Control& control);
-  bool hasHandler(const std::string& name, Event event) const;
 
  protected:
   using Handler = std::function<void(int index)>;
