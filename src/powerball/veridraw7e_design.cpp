@@ -119,14 +119,9 @@ void addPowerBallEntry(std::vector<ControlDesign>& controls, int lines) {
 // number only when it matched. Element 73 of the grid stands 30 to the right
 // of its column, and element 1 of the column alone has a border.
 void addPrizeGrid(std::vector<ControlDesign>& controls, const tickets::TicketGame& game) {
-  const ControlDesign result = textBox("IntResult", {0, 0, 300, 250})
-                                   .back(colors::kPaleYellow)
-                                   .border(0)
-                                   .centred()
-                                   .noTabStop();
-  tickets::addGrid(
-      controls, result, game.mostLines, game.cellsPerLine,
-      {9210, tickets::kLottoGridTop, tickets::kLottoColumnStep, tickets::kLottoRowStep});
+  tickets::addPrizeGrid(
+      controls, game,
+      {9210, tickets::kLottoGridTop, tickets::kLottoColumnStep, tickets::kLottoRowStep}, 250);
   for (ControlDesign& design : controls)
     if (design.name == "IntResult" && design.index == 73) design.left = 9240;
   for (int line = 1; line <= game.mostLines; ++line) {

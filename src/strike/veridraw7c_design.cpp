@@ -133,13 +133,7 @@ FormDesign veridraw7cDesign() {
                            .hidden());
   controls.push_back(tickets::coverBox(game, {830, 7560, 1740, 300}));
 
-  const ControlDesign result = textBox("IntResult", {0, 0, 300, 285})
-                                   .back(colors::kPaleYellow)
-                                   .border(0)
-                                   .centred()
-                                   .noTabStop();
-  tickets::addGrid(controls, result, game.mostLines, game.cellsPerLine,
-                   {9285, kGridTop, kColumnStep, kRowStep});
+  tickets::addPrizeGrid(controls, game, {9285, kGridTop, kColumnStep, kRowStep}, 285);
   moveElement(controls, "IntResult", 46, 4800);
   tickets::addLettersAndLineButtons(controls, game,
                                     {.top = kGridTop,

@@ -134,4 +134,17 @@ void addLettersAndLineButtons(std::vector<ControlDesign>& controls, const Ticket
                  game.lineButtons, rowStep);
 }
 
+// The cells of every prize grid are 300 wide, however far apart they stand.
+constexpr int kPrizeCellWidth = 300;
+
+void addPrizeGrid(std::vector<ControlDesign>& controls, const TicketGame& game,
+                  const GridLayout& layout, int cellHeight) {
+  const ControlDesign result = textBox("IntResult", {0, 0, kPrizeCellWidth, cellHeight})
+                                   .back(colors::kPaleYellow)
+                                   .border(0)
+                                   .centred()
+                                   .noTabStop();
+  addGrid(controls, result, game.mostLines, game.cellsPerLine, layout);
+}
+
 }  // namespace veridraw::tickets

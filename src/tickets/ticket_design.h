@@ -76,6 +76,11 @@ struct GridLayout {
 void addGrid(std::vector<ControlDesign>& controls, const ControlDesign& cell, int lines,
              int perLine, GridLayout layout);
 
+// The prize grid IntResult of a game: a cell for each cell of the ticket, pale
+// yellow, without a border, filled only by the check.
+void addPrizeGrid(std::vector<ControlDesign>& controls, const TicketGame& game,
+                  const GridLayout& layout, int cellHeight);
+
 // Elements 1 to `lines` of the control array of `letter`, "A." to "O." with no
 // I, one a row from the letter's own Top.
 void addLineLetters(std::vector<ControlDesign>& controls, const ControlDesign& letter, int lines,

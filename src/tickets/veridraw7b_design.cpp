@@ -83,14 +83,9 @@ FormDesign veridraw7bDesign() {
   controls.push_back(textBox("LineA", {120, 8230, 300, 285}).at(0).noTabStop().hidden());
   controls.push_back(tickets::coverBox(game, {840, 7440, 420, 285}));
 
-  const ControlDesign result = textBox("IntResult", {0, 0, 300, 250})
-                                   .back(colors::kPaleYellow)
-                                   .border(0)
-                                   .centred()
-                                   .noTabStop();
-  tickets::addGrid(
-      controls, result, game.mostLines, game.cellsPerLine,
-      {9450, tickets::kLottoGridTop, tickets::kLottoColumnStep, tickets::kLottoRowStep});
+  tickets::addPrizeGrid(
+      controls, game,
+      {9450, tickets::kLottoGridTop, tickets::kLottoColumnStep, tickets::kLottoRowStep}, 250);
   tickets::addLettersAndLineButtons(controls, game,
                                     {.top = tickets::kLottoGridTop,
                                      .height = 250,
