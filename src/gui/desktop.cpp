@@ -85,7 +85,6 @@ void Desktop::showWindowFor(Form& form) {
   window_ = new FormWindow(*this, form);
   window_->sync();
   window_->show();
-  window_->centreOnScreen();
   window_->activateWindow();
   window_->setFocus();
   discard(previous);

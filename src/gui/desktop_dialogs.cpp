@@ -2,8 +2,11 @@
 
 #include <QInputDialog>
 #include <QMessageBox>
+#include <QScreen>
 
 #include "gui/appearance.h"
+#include "gui/form_window.h"
+#include "gui/window_placement.h"
 #include "gui/windows1252.h"
 #include "screen/form.h"
 
@@ -29,6 +32,13 @@ int DesktopDialogs::MsgBox(const std::string& prompt, int buttons, const std::st
                   dialogText(prompt), yesNo ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok,
                   parent);
   box.setTextFormat(Qt::PlainText);
+  if (const auto* window = dynamic_cast<const FormWindow*>(parent)) {
+    const QRect owner = window->frameGeometry();
+    const QRect keepClear = window->keepClearArea();
+    new FramePlacer(box, [&box, owner, keepClear](const QSize& frame) {
+      return messageBoxPlace(box.screen()->availableGeometry(), owner, frame, keepClear);
+    });
+  }
   box.exec();
   const QMessageBox::StandardButton pressed = box.standardButton(box.clickedButton());
   if (pressed == QMessageBox::Yes) return msgbox::kYes;
@@ -44,7 +54,9 @@ std::string DesktopDialogs::InputBox(const std::string& prompt, const std::strin
   box.setWindowTitle(fromWindows1252(title));
   box.setLabelText(dialogText(prompt));
   box.setTextValue(fromWindows1252(defaultText));
-  box.move(toPixels(xpos), toPixels(ypos));
+  // The frame's top-left corner, title bar included, at the point given.
+  const QPoint corner(toPixels(xpos), toPixels(ypos));
+  new FramePlacer(box, [corner](const QSize&) { return corner; });
   if (box.exec() != QDialog::Accepted) return "";
   return toWindows1252(box.textValue());
 }

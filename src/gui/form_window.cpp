@@ -1,7 +1,6 @@
 #include "gui/form_window.h"
 
 #include <QCloseEvent>
-#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QScreen>
 
@@ -9,6 +8,7 @@
 #include "gui/control_view.h"
 #include "gui/desktop.h"
 #include "gui/key_input.h"
+#include "gui/window_placement.h"
 #include "gui/windows1252.h"
 #include "screen/application.h"
 
@@ -44,13 +44,21 @@ FormWindow::FormWindow(Desktop& desktop, Form& form)
         views_.push_back(new ControlView(*this, *control));
     }
   }
-  centreOnScreen();
+  // The whole frame centred, title bar included, once the frame is known.
+  new FramePlacer(*this, [this](const QSize& frame) {
+    return centredFrame(screen()->availableGeometry(), frame);
+  });
 }
 
-void FormWindow::centreOnScreen() {
-  QRect frame = frameGeometry();
-  frame.moveCenter(QGuiApplication::primaryScreen()->availableGeometry().center());
-  move(frame.topLeft());
+QRect FormWindow::keepClearArea() const {
+  const QColor red = modelColor(colors::kRed);
+  QRect area;
+  for (const ControlView* view : views_) {
+    if (!view->isVisibleTo(this) || (!view->look().focused && view->look().background != red))
+      continue;
+    area |= QRect(view->mapToGlobal(QPoint(0, 0)), view->size());
+  }
+  return area;
 }
 
 bool FormWindow::showsCurrentControls() const {
@@ -58,10 +66,10 @@ bool FormWindow::showsCurrentControls() const {
 }
 
 void FormWindow::sync() {
+  if (!showsCurrentControls()) return;
   const Control* focus = form_.focus();
-  for (ControlView* view : views_) {
-    if (const Control* control = controlOf(*view)) view->sync(*control, control == focus);
-  }
+  for (ControlView* view : views_)
+    view->sync(view->control(), &view->control() == focus);
 }
 
 ControlView* FormWindow::view(std::string_view name, int index) const {
@@ -71,8 +79,7 @@ ControlView* FormWindow::view(std::string_view name, int index) const {
 }
 
 Control* FormWindow::controlOf(const ControlView& view) const {
-  if (!showsCurrentControls()) return nullptr;
-  return form_.find(view.controlName(), view.controlIndex());
+  return showsCurrentControls() ? &view.control() : nullptr;
 }
 
 void FormWindow::clicked(const ControlView& view) {

@@ -19,8 +19,9 @@ class FormWindow : public QWidget {
   FormWindow(Desktop& desktop, Form& form);
 
   Form& form() const { return form_; }
-  // Centres the window, with its frame once the frame is known.
-  void centreOnScreen();
+  // The area, on the screen, that a message box should leave in view: the
+  // control with the focus and every cell painted red. Empty when there is none.
+  QRect keepClearArea() const;
   // Whether the form still has the controls that this window was made for.
   bool showsCurrentControls() const;
   // Takes over the state of every control; call only while showsCurrentControls().

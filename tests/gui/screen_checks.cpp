@@ -115,6 +115,7 @@ void ScreenChecks::typeRefused(const char* keys, const char* cell, int index,
   QString shown;
   std::int32_t modelColour = 0;
   QColor screenColour;
+  bool cellInView = false;
   MessageBoxSeen seen;
   const DialogAnswer reply([&](QWidget* dialog) {
     const ControlView& view = *program_->view(cell, index);
@@ -122,6 +123,8 @@ void ScreenChecks::typeRefused(const char* keys, const char* cell, int index,
     modelColour = control(cell, index).backColor();
     const QImage screen = program_->window()->grab().toImage();
     screenColour = screen.pixelColor(view.geometry().topLeft() + QPoint(3, 3));
+    cellInView =
+        !dialog->frameGeometry().intersects(QRect(view.mapToGlobal(QPoint()), view.size()));
     auto* box = qobject_cast<QMessageBox*>(dialog);
     seen = seenIn(*box);
     box->button(QMessageBox::Ok)->click();
@@ -136,6 +139,8 @@ void ScreenChecks::typeRefused(const char* keys, const char* cell, int index,
   QCOMPARE(seen.buttons, QMessageBox::StandardButtons(QMessageBox::Ok));
   QCOMPARE(modelColour, 0x0000FF);
   QCOMPARE(screenColour, QColor(255, 0, 0));
+  // The box stands clear of the red cell.
+  QVERIFY(cellInView);
 }
 
 }  // namespace veridraw::gui::testing

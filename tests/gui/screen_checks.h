@@ -40,7 +40,8 @@ class ScreenChecks {
 
   // Types `keys` into the cell, the last of which makes a number that is
   // refused: the message box titled "WARNING", with OK alone, says `message`
-  // while the cell stands red on the screen and shows the number; OK answers it.
+  // while the cell stands red on the screen, in view beside the box, and shows
+  // the number; OK answers it.
   void typeRefused(const char* keys, const char* cell, int index, const QString& message);
 
   std::unique_ptr<ProgramOnDesktop> program_;
