@@ -1,13 +1,64 @@
 #include "gui/appearance.h"
 
+#include <QFontDatabase>
+#include <QFontInfo>
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <map>
+#include <utility>
 
 namespace veridraw::gui {
 
 namespace {
 
 constexpr double kPixelsPerPoint = 96.0 / 72.0;
+
+// Where Debian's fonts-wine puts its faces, outside the font configuration:
+// the program loads them itself.
+constexpr const char* kWineFonts = "/usr/share/wine/fonts/";
+constexpr std::array kWineFaces{"ms_sans_serif.ttf", "tahoma.ttf", "tahomabd.ttf"};
+
+constexpr const char* kBitmapFamily = "MS Sans Serif";
+
+// The point sizes of the bitmap face and the pixel height of each, its cell
+// height on a 96 dpi screen.
+struct Strike {
+  double fromPoints;
+  double toPoints;
+  int pixels;
+};
+constexpr std::array kStrikes{Strike{7.5, 9.0, 13}, Strike{9.5, 10.5, 16}, Strike{11.5, 12.5, 20}};
+
+bool loadFaces() {
+  for (const char* face : kWineFaces)
+    QFontDatabase::addApplicationFont(QString::fromLatin1(kWineFonts) + QString::fromLatin1(face));
+  return QFontDatabase::families().contains(QString::fromLatin1(kBitmapFamily));
+}
+
+// Whether the bitmap face is there; the faces are loaded at the first call.
+bool haveBitmapFace() {
+  static const bool loaded = loadFaces();
+  return loaded;
+}
+
+const Strike* strikeFor(double points) {
+  if (!haveBitmapFace()) return nullptr;
+  for (const Strike& strike : kStrikes)
+    if (points >= strike.fromPoints && points <= strike.toPoints) return &strike;
+  return nullptr;
+}
+
+QFont matchedFont(double points, bool bold) {
+  if (const Strike* strike = strikeFor(points)) {
+    QFont font(QString::fromLatin1(kBitmapFamily));
+    font.setStyleHint(QFont::SansSerif);
+    font.setPixelSize(strike->pixels);
+    font.setBold(bold);
+    return font;
+  }
+  return scalableFont(std::max(1, static_cast<int>(std::lround(points * kPixelsPerPoint))), bold);
+}
 
 }  // namespace
 
@@ -26,14 +77,28 @@ QColor modelColor(std::int32_t bgr) {
 }
 
 QFont modelFont(double points, bool bold) {
+  // Few sizes are in use, and a font is costly to match: each is made once.
+  static std::map<std::pair<double, bool>, QFont> made;
+  const auto [place, isNew] = made.try_emplace({points, bold});
+  if (isNew) place->second = matchedFont(points, bold);
+  return place->second;
+}
+
+QFont scalableFont(int pixels, bool bold) {
+  haveBitmapFace();
   QFont font;
-  // The classic face first; where it is missing, faces of about its width.
-  font.setFamilies({"MS Sans Serif", "Microsoft Sans Serif", "Tahoma", "Arial", "Liberation Sans",
-                    "DejaVu Sans Condensed", "DejaVu Sans"});
+  font.setFamilies({"Tahoma", "Liberation Sans", "Arial", "DejaVu Sans Condensed", "DejaVu Sans"});
   font.setStyleHint(QFont::SansSerif);
-  font.setPixelSize(std::max(1, static_cast<int>(std::lround(points * kPixelsPerPoint))));
+  // Hinted up and down only: the letters keep the widths they were designed
+  // with, whatever the desktop's own hinting, so captions fit alike everywhere.
+  font.setHintingPreference(QFont::PreferVerticalHinting);
+  font.setPixelSize(pixels);
   font.setBold(bold);
   return font;
+}
+
+QString captionFamily() {
+  return QFontInfo(modelFont(8.25, false)).family();
 }
 
 }  // namespace veridraw::gui

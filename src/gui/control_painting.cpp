@@ -11,7 +11,10 @@ namespace veridraw::gui {
 namespace {
 
 constexpr int kBevel = 2;
-constexpr int kTextMargin = 2;
+// The room between the border of a text box and its text, on either side.
+constexpr int kTextMargin = 1;
+// The room left of the text of a list's row.
+constexpr int kRowMargin = 2;
 constexpr int kFocusInset = 4;
 constexpr int kLeastShrink = 2;
 constexpr int kShrinkShare = 8;
@@ -68,28 +71,39 @@ Qt::Alignment horizontal(Alignment alignment) {
   return Qt::AlignLeft;
 }
 
+// Whether the caption fits the box in the font. The descenders of the last
+// line may be cut, as the classic forms cut them.
+bool captionFits(const QRect& box, int flags, const QFont& font, const QString& text) {
+  const QFontMetrics metrics(font);
+  const QRect needed = metrics.boundingRect(box, flags, text);
+  return needed.width() <= box.width() && needed.height() - metrics.descent() <= box.height();
+}
+
+int captionFlags(const ControlLook& look) {
+  const int placed = look.kind == ControlKind::CommandButton
+                         ? int(Qt::AlignCenter)
+                         : int(horizontal(look.alignment) | Qt::AlignTop);
+  return placed | Qt::TextShowMnemonic | Qt::TextWordWrap;
+}
+
 // The designed font, or a pixel or two smaller where the caption would not fit
-// its control in it: the forms were laid out for a face narrower than most.
-QFont captionFont(const QRect& area, int flags, const ControlLook& look) {
-  QFont font = look.font;
-  const int designed = font.pixelSize();
+// its control in it. A bitmap face has no sizes in between: a scalable face of
+// its look stands in for it there.
+QFont fittedCaptionFont(const QRect& box, int flags, const ControlLook& look) {
+  if (captionFits(box, flags, look.font, look.text)) return look.font;
+  const int designed = look.font.pixelSize();
   const int smallest = designed - std::max(kLeastShrink, designed / kShrinkShare);
-  for (int pixels = designed; pixels > smallest; --pixels) {
-    font.setPixelSize(pixels);
-    // The descenders of the last line may be cut, as the classic forms cut them.
-    const QFontMetrics metrics(font);
-    const QRect needed = metrics.boundingRect(area, flags, look.text);
-    if (needed.width() <= area.width() && needed.height() - metrics.descent() <= area.height())
-      return font;
+  for (int pixels = designed - 1; pixels > smallest; --pixels) {
+    const QFont font = scalableFont(pixels, look.font.bold());
+    if (captionFits(box, flags, font, look.text)) return font;
   }
-  font.setPixelSize(smallest);
-  return font;
+  return scalableFont(smallest, look.font.bold());
 }
 
 // A caption: the "&" underlines the access key; a disabled one is etched.
-void drawCaption(QPainter& painter, const QRect& area, int flags, const ControlLook& look) {
-  flags |= Qt::TextShowMnemonic | Qt::TextWordWrap;
-  painter.setFont(captionFont(area, flags, look));
+void drawCaption(QPainter& painter, const QRect& area, const ControlLook& look) {
+  const int flags = captionFlags(look);
+  painter.setFont(fittedCaptionFont(area, flags, look));
   if (!look.enabled) {
     painter.setPen(edges::kHighlight);
     painter.drawText(area.translated(1, 1), flags, look.text);
@@ -113,10 +127,10 @@ void paintButton(QPainter& painter, const QRect& area, const ControlLook& look, 
   } else {
     drawRaised(painter, face);
   }
-  QRect content = face.adjusted(kBevel, kBevel, -kBevel, -kBevel);
+  QRect content = textArea(area, look);
   if (pressed) content.translate(1, 1);
   if (!look.picture.empty()) paintPicture(painter, content.adjusted(1, 1, -1, -1), look.picture);
-  if (!look.text.isEmpty()) drawCaption(painter, content, Qt::AlignCenter, look);
+  if (!look.text.isEmpty()) drawCaption(painter, content, look);
   if (look.focused) {
     const int inset = kFocusInset - kBevel;
     drawFocusRect(painter, content.adjusted(inset, inset, -inset, -inset));
@@ -125,12 +139,8 @@ void paintButton(QPainter& painter, const QRect& area, const ControlLook& look, 
 
 void paintLabel(QPainter& painter, const QRect& area, const ControlLook& look) {
   painter.fillRect(area, look.background);
-  QRect content = area;
-  if (look.borderStyle != 0) {
-    drawSunken(painter, area);
-    content.adjust(kBevel, kBevel, -kBevel, -kBevel);
-  }
-  drawCaption(painter, content, horizontal(look.alignment) | Qt::AlignTop, look);
+  if (look.borderStyle != 0) drawSunken(painter, area);
+  drawCaption(painter, textArea(area, look), look);
 }
 
 // The text of a text box, laid out on one line or, in a box tall enough for
@@ -200,7 +210,7 @@ void paintListBox(QPainter& painter, const QRect& area, const ControlLook& look)
     const bool selected = item == look.listIndex;
     if (selected) painter.fillRect(row, edges::kSelection);
     painter.setPen(selected ? edges::kHighlight : look.foreground);
-    painter.drawText(row.adjusted(kTextMargin, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter,
+    painter.drawText(row.adjusted(kRowMargin, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter,
                      look.items[item]);
     if (look.focused && item == std::max(0, look.listIndex))
       drawFocusRect(painter, row, selected ? edges::kHighlight : edges::kDarkShadow);
@@ -209,6 +219,31 @@ void paintListBox(QPainter& painter, const QRect& area, const ControlLook& look)
 }
 
 }  // namespace
+
+QRect textArea(const QRect& area, const ControlLook& look) {
+  switch (look.kind) {
+    case ControlKind::CommandButton: {
+      const int inset = kBevel + (look.focused ? 1 : 0);
+      return area.adjusted(inset, inset, -inset, -inset);
+    }
+    case ControlKind::TextBox: {
+      const int border = fieldBorder(look);
+      return area.adjusted(border + kTextMargin, border, -border - kTextMargin, -border);
+    }
+    case ControlKind::Label:
+      if (look.borderStyle != 0) return area.adjusted(kBevel, kBevel, -kBevel, -kBevel);
+      return area;
+    case ControlKind::ListBox:
+    case ControlKind::Image:
+    case ControlKind::Document:
+      break;
+  }
+  return area;
+}
+
+QFont captionFont(const QRect& area, const ControlLook& look) {
+  return fittedCaptionFont(textArea(area, look), captionFlags(look), look);
+}
 
 ListRows listRows(const QRect& area, const ControlLook& look) {
   ListRows rows;

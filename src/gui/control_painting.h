@@ -11,6 +11,16 @@ namespace veridraw::gui {
 
 void paintControl(QPainter& painter, const QRect& area, const ControlLook& look, bool pressed);
 
+// The box within a control's area in which its caption or text is laid out:
+// inside a button's bevel (and the frame of the focus, when it has it), inside
+// a label's border, inside a text box's border and margins.
+QRect textArea(const QRect& area, const ControlLook& look);
+
+// The font that a label's or a button's caption is painted in within `area`:
+// the designed one, or where the caption wouldn't fit in it, up to two pixels
+// smaller.
+QFont captionFont(const QRect& area, const ControlLook& look);
+
 // The rows of a list box, for painting them and for finding the row under the
 // mouse. A scroll bar, when the items don't fit, takes the right edge.
 inline constexpr int kScrollBarWidth = 16;

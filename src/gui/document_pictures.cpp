@@ -39,7 +39,7 @@ constexpr int kSmallestBody = 7;
 // The body in the largest size, from 11 pixels down, at which it fits the box.
 void drawBody(QPainter& painter, const QRectF& box, const QString& text) {
   const int flags = Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap;
-  QFont font = modelFont(8.25, false);
+  QFont font = scalableFont(kLargestBody, false);
   for (int pixels = kLargestBody; pixels >= kSmallestBody; --pixels) {
     font.setPixelSize(pixels);
     if (QFontMetricsF(font).boundingRect(box, flags, text).height() <= box.height()) break;

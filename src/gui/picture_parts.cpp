@@ -22,7 +22,7 @@ bool darkColour(const QColor& colour) {
 }  // namespace
 
 QFont fittedFont(const QString& text, const QSizeF& box, bool bold, int maxPixels) {
-  QFont font = modelFont(8.25, bold);
+  QFont font = scalableFont(maxPixels, bold);
   for (int pixels = std::max(kSmallestPixels, maxPixels); pixels >= kSmallestPixels; --pixels) {
     font.setPixelSize(pixels);
     const QFontMetricsF metrics(font);

@@ -298,7 +298,8 @@ void Scenario::close(const Words& words) {
   afterAction();
 }
 
-ScenarioResult runScenario(std::istream& in, std::ostream& out, bool verbose) {
+ScenarioResult runScenario(std::istream& in, std::ostream& out, bool verbose,
+                           const std::function<void(const Scenario&)>& afterLine) {
   Scenario scenario(out, verbose);
   std::string line;
   int number = 0;
@@ -308,6 +309,7 @@ ScenarioResult runScenario(std::istream& in, std::ostream& out, bool verbose) {
     if (number == 1 && line.rfind("\xEF\xBB\xBF", 0) == 0) line.erase(0, 3);
     try {
       scenario.runLine(line);
+      if (afterLine) afterLine(scenario);
     } catch (const ScenarioFailure& failure) {
       return {false, number, oneLine(failure.what())};
     } catch (const std::exception& error) {

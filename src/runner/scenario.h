@@ -31,6 +31,8 @@ class Scenario {
   void runLine(std::string_view line);
 
   const std::filesystem::path& directory() const { return directory_; }
+  // The program of the last `start`, or null before it.
+  const Application* program() const { return program_.get(); }
 
  private:
   using Words = std::vector<Token>;
@@ -87,7 +89,9 @@ struct ScenarioResult {
   std::string reason;
 };
 
-// Plays the scenario read from `in`, line by line as it comes.
-ScenarioResult runScenario(std::istream& in, std::ostream& out, bool verbose);
+// Plays the scenario read from `in`, line by line as it comes. `afterLine`,
+// when given, looks at the scenario after each line that ran.
+ScenarioResult runScenario(std::istream& in, std::ostream& out, bool verbose,
+                           const std::function<void(const Scenario&)>& afterLine = {});
 
 }  // namespace veridraw::script
