@@ -8,6 +8,7 @@
 #include <QString>
 #include <QStringList>
 #include <string>
+#include <vector>
 
 #include "screen/control.h"
 
@@ -33,6 +34,18 @@ struct ControlLook {
   bool operator==(const ControlLook&) const = default;
 };
 
+// The model's strings from which a look's text and items were last converted,
+// so that a look brought up to date converts only the strings that changed.
+struct LookSources {
+  std::string text;
+  std::vector<std::string> items;
+  bool converted = false;
+};
+
 ControlLook lookOf(const Control& control, bool focused);
+
+// Brings `look` up to the control's present state, converting the text and the
+// items only where they differ from `sources`, which it then updates.
+void updateLook(ControlLook& look, LookSources& sources, const Control& control, bool focused);
 
 }  // namespace veridraw::gui

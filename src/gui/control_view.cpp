@@ -21,9 +21,15 @@ constexpr int kRowsPerWheelStep = 3;
 
 }  // namespace
 
-ControlView::ControlView(FormWindow& window, const Control& control)
-    : QWidget(&window), window_(window), name_(control.name()), index_(control.index()) {
+ControlView::ControlView(FormWindow& window, Control& control)
+    : QWidget(&window),
+      window_(window),
+      control_(control),
+      name_(control.name()),
+      index_(control.index()) {
   setFocusPolicy(Qt::NoFocus);
+  // The model has no way to change a tool-tip: it is set once.
+  setToolTip(fromWindows1252(control.toolTipText()));
   if (control.kind() != ControlKind::ListBox) return;
   scrollBar_ = new QScrollBar(Qt::Vertical, this);
   scrollBar_->setFocusPolicy(Qt::NoFocus);
@@ -33,10 +39,14 @@ ControlView::ControlView(FormWindow& window, const Control& control)
 }
 
 void ControlView::sync(const Control& control, bool focused) {
-  setGeometry(toPixels(control.left(), control.top(), control.width(), control.height()));
-  setToolTip(fromWindows1252(control.toolTipText()));
-  setVisible(control.visible());
-  ControlLook look = lookOf(control, focused);
+  if (synced_ && control.revision() == revision_ && focused == look_.focused) return;
+  synced_ = true;
+  revision_ = control.revision();
+  const QRect place = toPixels(control.left(), control.top(), control.width(), control.height());
+  if (place != geometry()) setGeometry(place);
+  if (control.visible() == isHidden()) setVisible(control.visible());
+  ControlLook look = look_;
+  updateLook(look, sources_, control, focused);
   if (look != look_) {
     look_ = std::move(look);
     update();

@@ -62,20 +62,21 @@ std::string Control::text() const {
 
 void Control::setText(const std::string& value) {
   if (kind_ != ControlKind::TextBox) throw std::logic_error(displayName() + " takes no Text");
-  caret_ = 0;
-  selectionLength_ = 0;
+  assign(caret_, 0);
+  assign(selectionLength_, 0);
   if (value == text_) return;
   text_ = value;
+  touch();
   form_.raise(Event::Change, *this);
 }
 
 void Control::setVisible(bool value) {
-  visible_ = value;
+  assign(visible_, value);
   if (!value) form_.application().focusLeaves(*this);
 }
 
 void Control::setEnabled(bool value) {
-  enabled_ = value;
+  assign(enabled_, value);
   if (!value) form_.application().focusLeaves(*this);
 }
 
@@ -91,35 +92,38 @@ void Control::SetFocus() {
 
 void Control::AddItem(const std::string& item) {
   items_.push_back(item);
+  touch();
 }
 
 void Control::Clear() {
+  if (!items_.empty()) touch();
   items_.clear();
-  listIndex_ = -1;
-  topIndex_ = 0;
+  assign(listIndex_, -1);
+  assign(topIndex_, 0);
 }
 
 void Control::selectItem(int index) {
-  listIndex_ = std::clamp(index, -1, listCount() - 1);
+  assign(listIndex_, std::clamp(index, -1, listCount() - 1));
   if (listIndex_ < 0) return;
   const int rows = std::max(1, height_ / kListRowHeight);
-  if (listIndex_ < topIndex_) topIndex_ = listIndex_;
-  if (listIndex_ >= topIndex_ + rows) topIndex_ = listIndex_ - rows + 1;
+  if (listIndex_ < topIndex_) assign(topIndex_, listIndex_);
+  if (listIndex_ >= topIndex_ + rows) assign(topIndex_, listIndex_ - rows + 1);
 }
 
 void Control::setTopIndex(int value) {
-  topIndex_ = std::clamp(value, 0, std::max(0, listCount() - 1));
+  assign(topIndex_, std::clamp(value, 0, std::max(0, listCount() - 1)));
 }
 
 void Control::setCaret(int position) {
-  caret_ = std::clamp(position, 0, static_cast<int>(text_.size()));
-  selectionLength_ = 0;
+  assign(caret_, std::clamp(position, 0, static_cast<int>(text_.size())));
+  assign(selectionLength_, 0);
 }
 
 void Control::replaceByUser(int from, int count, const std::string& insert) {
   text_.replace(static_cast<std::size_t>(from), static_cast<std::size_t>(count), insert);
   caret_ = from + static_cast<int>(insert.size());
   selectionLength_ = 0;
+  touch();
   form_.raise(Event::Change, *this);
 }
 

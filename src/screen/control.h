@@ -32,38 +32,38 @@ class Control {
   std::string text() const;
   void setText(const std::string& value);
   const std::string& caption() const { return caption_; }
-  void setCaption(const std::string& value) { caption_ = value; }
+  void setCaption(const std::string& value) { assign(caption_, value); }
 
   bool visible() const { return visible_; }
   void setVisible(bool value);
   bool enabled() const { return enabled_; }
   void setEnabled(bool value);
   bool locked() const { return locked_; }
-  void setLocked(bool value) { locked_ = value; }
+  void setLocked(bool value) { assign(locked_, value); }
   bool tabStop() const { return tabStop_; }
-  void setTabStop(bool value) { tabStop_ = value; }
+  void setTabStop(bool value) { assign(tabStop_, value); }
   int tabIndex() const { return tabIndex_; }
-  void setTabIndex(int value) { tabIndex_ = value; }
+  void setTabIndex(int value) { assign(tabIndex_, value); }
 
   std::int32_t backColor() const { return backColor_; }
-  void setBackColor(std::int32_t value) { backColor_ = value; }
+  void setBackColor(std::int32_t value) { assign(backColor_, value); }
   std::int32_t foreColor() const { return foreColor_; }
-  void setForeColor(std::int32_t value) { foreColor_ = value; }
+  void setForeColor(std::int32_t value) { assign(foreColor_, value); }
   double fontSize() const { return fontSize_; }
-  void setFontSize(double value) { fontSize_ = value; }
+  void setFontSize(double value) { assign(fontSize_, value); }
   bool fontBold() const { return fontBold_; }
-  void setFontBold(bool value) { fontBold_ = value; }
+  void setFontBold(bool value) { assign(fontBold_, value); }
   int borderStyle() const { return borderStyle_; }
-  void setBorderStyle(int value) { borderStyle_ = value; }
+  void setBorderStyle(int value) { assign(borderStyle_, value); }
 
   int left() const { return left_; }
-  void setLeft(int value) { left_ = value; }
+  void setLeft(int value) { assign(left_, value); }
   int top() const { return top_; }
-  void setTop(int value) { top_ = value; }
+  void setTop(int value) { assign(top_, value); }
   int width() const { return width_; }
-  void setWidth(int value) { width_ = value; }
+  void setWidth(int value) { assign(width_, value); }
   int height() const { return height_; }
-  void setHeight(int value) { height_ = value; }
+  void setHeight(int value) { assign(height_, value); }
 
   const std::string& toolTipText() const { return toolTip_; }
   Alignment alignment() const { return alignment_; }
@@ -96,8 +96,21 @@ class Control {
   // The access key: the letter after "&" in the caption, upper-cased, or 0.
   char accessKey() const;
 
+  // Counts the changes of what a face shows of the control: every setter that
+  // changes a property, the text and caret, the list's items, selection and
+  // scrolling. A face that keeps the count it last showed redraws only the
+  // controls whose count has moved since.
+  std::uint64_t revision() const { return revision_; }
+
  private:
   void replaceByUser(int from, int count, const std::string& insert);
+  void touch() { ++revision_; }
+  template <class T>
+  void assign(T& field, const T& value) {
+    if (field == value) return;
+    field = value;
+    touch();
+  }
 
   Form& form_;
   ControlKind kind_;
@@ -125,6 +138,7 @@ class Control {
   int topIndex_ = 0;
   int caret_ = 0;
   int selectionLength_ = 0;
+  std::uint64_t revision_ = 0;
 };
 
 }  // namespace veridraw
