@@ -100,10 +100,28 @@ QFont fittedCaptionFont(const QRect& box, int flags, const ControlLook& look) {
   return scalableFont(smallest, look.font.bold());
 }
 
+// The text laid out in lines of `width`.
+std::unique_ptr<QTextLayout> laidOut(const QString& text, const QFont& font, int width,
+                                     const QTextOption& option) {
+  auto layout = std::make_unique<QTextLayout>(text, font);
+  layout->setTextOption(option);
+  qreal height = 0;
+  layout->beginLayout();
+  for (QTextLine line = layout->createLine(); line.isValid(); line = layout->createLine()) {
+    line.setLineWidth(width);
+    line.setPosition({0, height});
+    height += line.height();
+  }
+  layout->endLayout();
+  return layout;
+}
+
 // A caption: the "&" underlines the access key; a disabled one is etched.
-void drawCaption(QPainter& painter, const QRect& area, const ControlLook& look) {
+void drawCaption(QPainter& painter, const QRect& area, const ControlLook& look, PaintCache* cache) {
   const int flags = captionFlags(look);
-  painter.setFont(fittedCaptionFont(area, flags, look));
+  const auto fit = [&] { return fittedCaptionFont(area, flags, look); };
+  painter.setFont(
+      cache != nullptr ? cache->captionFont(look.text, look.font, area.size(), flags, fit) : fit());
   if (!look.enabled) {
     painter.setPen(edges::kHighlight);
     painter.drawText(area.translated(1, 1), flags, look.text);
@@ -114,7 +132,8 @@ void drawCaption(QPainter& painter, const QRect& area, const ControlLook& look) 
   painter.drawText(area, flags, look.text);
 }
 
-void paintButton(QPainter& painter, const QRect& area, const ControlLook& look, bool pressed) {
+void paintButton(QPainter& painter, const QRect& area, const ControlLook& look, bool pressed,
+                 PaintCache* cache) {
   painter.fillRect(area, look.background);
   QRect face = area;
   if (look.focused) {
@@ -130,37 +149,31 @@ void paintButton(QPainter& painter, const QRect& area, const ControlLook& look, 
   QRect content = textArea(area, look);
   if (pressed) content.translate(1, 1);
   if (!look.picture.empty()) paintPicture(painter, content.adjusted(1, 1, -1, -1), look.picture);
-  if (!look.text.isEmpty()) drawCaption(painter, content, look);
+  if (!look.text.isEmpty()) drawCaption(painter, content, look, cache);
   if (look.focused) {
     const int inset = kFocusInset - kBevel;
     drawFocusRect(painter, content.adjusted(inset, inset, -inset, -inset));
   }
 }
 
-void paintLabel(QPainter& painter, const QRect& area, const ControlLook& look) {
+void paintLabel(QPainter& painter, const QRect& area, const ControlLook& look, PaintCache* cache) {
   painter.fillRect(area, look.background);
   if (look.borderStyle != 0) drawSunken(painter, area);
-  drawCaption(painter, textArea(area, look), look);
+  drawCaption(painter, textArea(area, look), look, cache);
 }
 
 // The text of a text box, laid out on one line or, in a box tall enough for
 // more, wrapped; with the selection and, when it has the focus, the caret.
-void paintText(QPainter& painter, const QRect& inner, const ControlLook& look) {
+void paintText(QPainter& painter, const QRect& inner, const ControlLook& look, PaintCache* cache) {
   const QFontMetrics metrics(look.font);
   const bool wraps = inner.height() >= 2 * metrics.height();
   QTextOption option(horizontal(look.alignment));
   option.setWrapMode(wraps ? QTextOption::WrapAtWordBoundaryOrAnywhere : QTextOption::NoWrap);
-  QTextLayout layout(look.text, look.font);
-  layout.setTextOption(option);
   const int width = inner.width() - 2 * kTextMargin;
-  qreal height = 0;
-  layout.beginLayout();
-  for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
-    line.setLineWidth(width);
-    line.setPosition({0, height});
-    height += line.height();
-  }
-  layout.endLayout();
+  std::unique_ptr<QTextLayout> own;
+  if (cache == nullptr) own = laidOut(look.text, look.font, width, option);
+  const QTextLayout& layout =
+      cache != nullptr ? cache->layout(look.text, look.font, width, option) : *own;
 
   QPointF origin(inner.left() + kTextMargin, inner.top() + 1);
   if (!wraps) origin.setY(inner.top() + std::max(0, (inner.height() - metrics.height()) / 2));
@@ -188,11 +201,12 @@ void paintText(QPainter& painter, const QRect& inner, const ControlLook& look) {
   painter.restore();
 }
 
-void paintTextBox(QPainter& painter, const QRect& area, const ControlLook& look) {
+void paintTextBox(QPainter& painter, const QRect& area, const ControlLook& look,
+                  PaintCache* cache) {
   painter.fillRect(area, look.background);
   if (look.borderStyle != 0) drawSunken(painter, area);
   const int border = fieldBorder(look);
-  paintText(painter, area.adjusted(border, border, -border, -border), look);
+  paintText(painter, area.adjusted(border, border, -border, -border), look, cache);
 }
 
 void paintListBox(QPainter& painter, const QRect& area, const ControlLook& look) {
@@ -269,16 +283,45 @@ int ListRows::lastTopIndex(int itemCount) const {
   return std::max(0, itemCount - visibleRows);
 }
 
-void paintControl(QPainter& painter, const QRect& area, const ControlLook& look, bool pressed) {
+QTextLayout& PaintCache::layout(const QString& text, const QFont& font, int width,
+                                const QTextOption& option) {
+  if (layout_ == nullptr || text != layoutText_ || font != layoutFont_ || width != layoutWidth_ ||
+      option.alignment() != layoutAlignment_ || option.wrapMode() != layoutWrap_) {
+    layout_ = laidOut(text, font, width, option);
+    layoutText_ = text;
+    layoutFont_ = font;
+    layoutWidth_ = width;
+    layoutAlignment_ = option.alignment();
+    layoutWrap_ = option.wrapMode();
+  }
+  return *layout_;
+}
+
+QFont PaintCache::captionFont(const QString& text, const QFont& font, const QSize& size, int flags,
+                              const std::function<QFont()>& fit) {
+  if (!captionKnown_ || text != captionText_ || font != captionDesigned_ || size != captionSize_ ||
+      flags != captionFlags_) {
+    captionFitted_ = fit();
+    captionText_ = text;
+    captionDesigned_ = font;
+    captionSize_ = size;
+    captionFlags_ = flags;
+    captionKnown_ = true;
+  }
+  return captionFitted_;
+}
+
+void paintControl(QPainter& painter, const QRect& area, const ControlLook& look, bool pressed,
+                  PaintCache* cache) {
   switch (look.kind) {
     case ControlKind::CommandButton:
-      paintButton(painter, area, look, pressed);
+      paintButton(painter, area, look, pressed, cache);
       break;
     case ControlKind::Label:
-      paintLabel(painter, area, look);
+      paintLabel(painter, area, look, cache);
       break;
     case ControlKind::TextBox:
-      paintTextBox(painter, area, look);
+      paintTextBox(painter, area, look, cache);
       break;
     case ControlKind::ListBox:
       paintListBox(painter, area, look);

@@ -4,12 +4,45 @@
 
 #include <QPainter>
 #include <QRect>
+#include <QTextLayout>
+#include <QTextOption>
+#include <functional>
+#include <memory>
 
 #include "gui/control_look.h"
 
 namespace veridraw::gui {
 
-void paintControl(QPainter& painter, const QRect& area, const ControlLook& look, bool pressed);
+// What painting a control keeps from one paint to the next, so that painting
+// the same text again (the focus moving on, a neighbour repainted over it)
+// shapes nothing anew: a text box's laid-out text, a caption's fitted font.
+class PaintCache {
+ public:
+  // The text laid out in the font for lines of `width`, on one line or wrapped.
+  QTextLayout& layout(const QString& text, const QFont& font, int width, const QTextOption& option);
+  // The font that `fit` chooses for the caption in a box of `size`.
+  QFont captionFont(const QString& text, const QFont& font, const QSize& size, int flags,
+                    const std::function<QFont()>& fit);
+
+ private:
+  QString layoutText_;
+  QFont layoutFont_;
+  int layoutWidth_ = -1;
+  Qt::Alignment layoutAlignment_;
+  QTextOption::WrapMode layoutWrap_ = QTextOption::NoWrap;
+  std::unique_ptr<QTextLayout> layout_;
+
+  QString captionText_;
+  QFont captionDesigned_;
+  QSize captionSize_;
+  int captionFlags_ = 0;
+  QFont captionFitted_;
+  bool captionKnown_ = false;
+};
+
+// Paints the control in `area`; with a cache, reuses what it kept of the last paint.
+void paintControl(QPainter& painter, const QRect& area, const ControlLook& look, bool pressed,
+                  PaintCache* cache = nullptr);
 
 // The box within a control's area in which its caption or text is laid out:
 // inside a button's bevel (and the frame of the focus, when it has it), inside

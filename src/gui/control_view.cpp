@@ -66,7 +66,7 @@ void ControlView::syncScrollBar() {
 
 void ControlView::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  paintControl(painter, rect(), look_, pressed_);
+  paintControl(painter, rect(), look_, pressed_, &paintCache_);
 }
 
 void ControlView::mousePressEvent(QMouseEvent* event) {

@@ -8,6 +8,7 @@
 #include <string>
 
 #include "gui/control_look.h"
+#include "gui/control_painting.h"
 
 class QScrollBar;
 
@@ -50,6 +51,7 @@ class ControlView : public QWidget {
   bool synced_ = false;
   bool pressed_ = false;
   QScrollBar* scrollBar_ = nullptr;
+  PaintCache paintCache_;
 };
 
 }  // namespace veridraw::gui
