@@ -21,14 +21,11 @@ constexpr std::array kWineFaces{"ms_sans_serif.ttf", "tahoma.ttf", "tahomabd.ttf
 
 constexpr const char* kBitmapFamily = "MS Sans Serif";
 
-// The point sizes of the bitmap face and the pixel height of each, its cell
-// height on a 96 dpi screen.
-struct Strike {
-  double fromPoints;
-  double toPoints;
-  int pixels;
-};
-constexpr std::array kStrikes{Strike{7.5, 9.0, 13}, Strike{9.5, 10.5, 16}, Strike{11.5, 12.5, 20}};
+// The point sizes that the bitmap face has, in its one strike of 13 pixels
+// (8 points on a 96 dpi screen). It has no bold of its own.
+constexpr double kBitmapFromPoints = 7.5;
+constexpr double kBitmapToPoints = 9.0;
+constexpr int kBitmapPixels = 13;
 
 bool loadFaces() {
   for (const char* face : kWineFaces)
@@ -42,19 +39,15 @@ bool haveBitmapFace() {
   return loaded;
 }
 
-const Strike* strikeFor(double points) {
-  if (!haveBitmapFace()) return nullptr;
-  for (const Strike& strike : kStrikes)
-    if (points >= strike.fromPoints && points <= strike.toPoints) return &strike;
-  return nullptr;
+bool bitmapFaceFor(double points, bool bold) {
+  return !bold && points >= kBitmapFromPoints && points <= kBitmapToPoints && haveBitmapFace();
 }
 
 QFont matchedFont(double points, bool bold) {
-  if (const Strike* strike = strikeFor(points)) {
+  if (bitmapFaceFor(points, bold)) {
     QFont font(QString::fromLatin1(kBitmapFamily));
     font.setStyleHint(QFont::SansSerif);
-    font.setPixelSize(strike->pixels);
-    font.setBold(bold);
+    font.setPixelSize(kBitmapPixels);
     return font;
   }
   return scalableFont(std::max(1, static_cast<int>(std::lround(points * kPixelsPerPoint))), bold);

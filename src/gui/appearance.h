@@ -19,11 +19,11 @@ QColor modelColor(std::int32_t bgr);
 // The font of the forms at the given size. The layout is in pixels of a 96 dpi
 // screen, so the size is set in those pixels too. The forms were laid out for
 // the classic 8-point bitmap sans-serif, whose widths their captions fit to the
-// pixel: at the sizes that it has (8, 10 and 12 points) that face is used, from
-// the stand-ins of the classic UI fonts in Debian's fonts-wine; at other sizes,
-// or without it, a scalable face of about its width: Tahoma (fonts-wine), then
-// Liberation Sans (fonts-liberation2, Arial's widths), then DejaVu Sans
-// Condensed and DejaVu Sans.
+// pixel: plain text at 8 points is set in it, from the stand-ins of the classic
+// UI fonts in Debian's fonts-wine. Bold text and other sizes, which it has not,
+// or all text without it, take a scalable face of about its width: Tahoma
+// (fonts-wine), then Liberation Sans (fonts-liberation2, Arial's widths), then
+// DejaVu Sans Condensed and DejaVu Sans.
 QFont modelFont(double points, bool bold);
 
 // A scalable face of the same look at any pixel size, for text that is fitted
