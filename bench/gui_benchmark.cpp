@@ -178,28 +178,12 @@ void BM_GuiFloorDigitIntoLineEdit(benchmark::State& state) {
   state.counters["median_us"] = median(samples);
 }
 
-// Every key of a fourteen-line Lotto ticket but the last, which checks it.
-void BM_GuiLottoTypicalDigit14Lines(benchmark::State& state) {
-  Floor floor;
-  auto ticket = std::make_unique<LottoTicket>();
-  std::vector<double> keys, floors;
-  for (auto _ : state) {
-    if (ticket->typed() == LottoTicket::keysInATicket() - 1) {
-      state.PauseTiming();
-      ticket = std::make_unique<LottoTicket>();
-      state.ResumeTiming();
-    }
-    const double sample = ticket->typeNext();
-    state.SetIterationTime(sample / 1e6);
-    keys.push_back(sample);
-    floors.push_back(floor.key());
-  }
-  report(state, keys, floors);
-}
-
-// The same keys into the model alone, with no face to follow them: what of the
-// keys above is the model's work.
-void BM_ModelLottoTypicalDigit14Lines(benchmark::State& state) {
+// Times every key of fourteen-line Lotto tickets but their last, a new ticket
+// after each: `typeKey` types one into the ticket and gives its time,
+// `afterKey` runs untimed after it.
+template <class TypeKey, class AfterKey>
+std::vector<double> everyKeyButTheLast(benchmark::State& state, TypeKey&& typeKey,
+                                       AfterKey&& afterKey) {
   auto ticket = std::make_unique<LottoTicket>();
   std::vector<double> keys;
   for (auto _ : state) {
@@ -208,10 +192,29 @@ void BM_ModelLottoTypicalDigit14Lines(benchmark::State& state) {
       ticket = std::make_unique<LottoTicket>();
       state.ResumeTiming();
     }
-    const double sample = ticket->typeNextIntoModel();
+    const double sample = typeKey(*ticket);
     state.SetIterationTime(sample / 1e6);
     keys.push_back(sample);
+    afterKey();
   }
+  return keys;
+}
+
+// Every key of a fourteen-line Lotto ticket but the last, which checks it.
+void BM_GuiLottoTypicalDigit14Lines(benchmark::State& state) {
+  Floor floor;
+  std::vector<double> floors;
+  const std::vector<double> keys = everyKeyButTheLast(
+      state, [](LottoTicket& ticket) { return ticket.typeNext(); },
+      [&] { floors.push_back(floor.key()); });
+  report(state, keys, floors);
+}
+
+// The same keys into the model alone, with no face to follow them: what of the
+// keys above is the model's work.
+void BM_ModelLottoTypicalDigit14Lines(benchmark::State& state) {
+  const std::vector<double> keys = everyKeyButTheLast(
+      state, [](LottoTicket& ticket) { return ticket.typeNextIntoModel(); }, [] {});
   state.counters["median_us"] = median(keys);
 }
 

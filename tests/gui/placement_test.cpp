@@ -25,6 +25,9 @@ const QSize kStartClient(794, 575);
 constexpr int kBorder = 4;
 constexpr int kTitleBar = 22;
 const QSize kStartFrame = kStartClient + QSize(2 * kBorder, 2 * kBorder + kTitleBar);
+// An 800 x 600 screen, and that frame on it as far down the middle as it goes.
+const QRect kScreen(0, 0, 800, 600);
+const QRect kOwner(3, 0, 794, 605);
 
 }  // namespace
 
@@ -69,29 +72,24 @@ class PlacementTest : public QObject {
   }
 
   void aMessageBoxStandsCentredOnItsOwnerWhenThatCoversNothing() {
-    const QRect screen(0, 0, 800, 600);
-    const QRect owner(3, 0, 794, 605);
     const QSize box(200, 120);
-    const QRect cell(40, 40, 25, 25);
-    const QRect placed(messageBoxPlace(screen, owner, box, cell), box);
-    QCOMPARE(placed.center(), owner.center());
+    const QRect placed(messageBoxPlace(kScreen, kOwner, box, QRect(40, 40, 25, 25)), box);
+    QCOMPARE(placed.center(), kOwner.center());
   }
 
   void aMessageBoxOverTheRedCellMovesBelowIt() {
-    const QRect screen(0, 0, 800, 600);
-    const QRect owner(3, 0, 794, 605);
     const QSize box(260, 130);
     // A cell of the draw entry in the middle of the form.
     const QRect cell(380, 300, 25, 25);
-    const QRect placed(messageBoxPlace(screen, owner, box, cell), box);
+    const QRect placed(messageBoxPlace(kScreen, kOwner, box, cell), box);
     QVERIFY(!placed.intersects(cell));
-    QVERIFY(screen.contains(placed));
+    QVERIFY(kScreen.contains(placed));
     QVERIFY(placed.top() > cell.bottom());
     QCOMPARE(placed.center().x(), cell.center().x());
   }
 
   void aMessageBoxGoesAboveACellAtTheBottomAndBesideATallArea() {
-    const QRect screen(0, 0, 800, 600);
+    const QRect& screen = kScreen;
     const QSize box(260, 130);
     // An owner low on the screen, so that room below the cell is short.
     const QRect lowOwner(3, 300, 794, 300);
@@ -101,9 +99,8 @@ class PlacementTest : public QObject {
     QVERIFY(!above.intersects(low));
     QVERIFY(above.bottom() < low.top());
     QVERIFY(screen.contains(above));
-    const QRect owner(3, 0, 794, 605);
     const QRect tall(300, 10, 60, 580);
-    const QRect beside(messageBoxPlace(screen, owner, box, tall), box);
+    const QRect beside(messageBoxPlace(screen, kOwner, box, tall), box);
     QVERIFY(!beside.intersects(tall));
     QVERIFY(beside.left() > tall.right());
     QVERIFY(screen.contains(beside));
