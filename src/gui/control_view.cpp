@@ -39,12 +39,15 @@ ControlView::ControlView(FormWindow& window, Control& control)
 }
 
 void ControlView::sync(const Control& control, bool focused) {
-  if (synced_ && control.revision() == revision_ && focused == look_.focused) return;
+  const bool first = !synced_;
+  if (!first && control.revision() == revision_ && focused == look_.focused) return;
   synced_ = true;
   revision_ = control.revision();
   const QRect place = toPixels(control.left(), control.top(), control.width(), control.height());
   if (place != geometry()) setGeometry(place);
-  if (control.visible() == isHidden()) setVisible(control.visible());
+  // Shown or hidden explicitly from the first, so that showing the window
+  // doesn't show a view that the model hides.
+  if (first || control.visible() == isHidden()) setVisible(control.visible());
   ControlLook look = look_;
   updateLook(look, sources_, control, focused);
   if (look != look_) {
