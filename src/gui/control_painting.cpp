@@ -19,14 +19,15 @@ constexpr int kFocusInset = 4;
 constexpr int kLeastShrink = 2;
 constexpr int kShrinkShare = 8;
 
+// A frame one pixel wide, its top and left edges in one colour and its bottom
+// and right edges, corners included, in the other. Filled, not stroked: the
+// frames of a window full of cells are painted at every key.
 void drawFrame(QPainter& painter, const QRect& area, const QColor& topLeft,
                const QColor& bottomRight) {
-  painter.setPen(topLeft);
-  painter.drawLine(area.topLeft(), area.topRight());
-  painter.drawLine(area.topLeft(), area.bottomLeft());
-  painter.setPen(bottomRight);
-  painter.drawLine(area.bottomLeft(), area.bottomRight());
-  painter.drawLine(area.topRight(), area.bottomRight());
+  painter.fillRect(area.left(), area.top(), area.width(), 1, topLeft);
+  painter.fillRect(area.left(), area.top(), 1, area.height(), topLeft);
+  painter.fillRect(area.left(), area.bottom(), area.width(), 1, bottomRight);
+  painter.fillRect(area.right(), area.top(), 1, area.height(), bottomRight);
 }
 
 void drawRaised(QPainter& painter, const QRect& area) {
