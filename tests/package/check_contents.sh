@@ -5,11 +5,7 @@
 set -uo pipefail
 deb_dir=$1 root=$2 data=$3 version=$4 extra=${5#extra=}
 id=org.veridraw.Veridraw
-failures=0
-fail() {
-  echo "FAIL: $*"
-  failures=$((failures + 1))
-}
+source "$(dirname "$0")/checks.sh"
 need_file() { [ -f "$root/$1" ] || fail "missing /$1"; }
 need_program() { [ -f "$root/$1" ] && [ -x "$root/$1" ] || fail "missing or not executable: /$1"; }
 
@@ -96,5 +92,4 @@ for package in libc6 libstdc++6 libqt6core6 libqt6gui6 libqt6widgets6 ${extra//;
 done
 
 echo "$(stat -c %s "$deb") bytes: ${deb##*/}"
-[ $failures -eq 0 ] || exit 1
-echo "all checks hold"
+finish

@@ -4,11 +4,7 @@
 #   check_launcher.sh CMAKE BUILD_DIR DATA_DIR WORK
 set -uo pipefail
 cmake=$1 build=$2 data=$3 work=$4
-failures=0
-fail() {
-  echo "FAIL: $*"
-  failures=$((failures + 1))
-}
+source "$(dirname "$0")/checks.sh"
 
 rm -rf "$work"
 mkdir -p "$work"
@@ -110,5 +106,4 @@ status=$?
 [ $status -ne 0 ] && [ ! -f "$record" ] && grep -q "neither XDG_DATA_HOME nor HOME" "$work/nohome.out" ||
   fail "no HOME: the launcher ended with $status: $(cat "$work/nohome.out")"
 
-[ $failures -eq 0 ] || exit 1
-echo "all checks hold"
+finish

@@ -6,15 +6,9 @@
 set -uo pipefail
 veridraw=$1 work=$2
 line="veridraw: no graphical display found; run it on a desktop, or try veridraw-script for the scripted runner"
-failures=0
-fail() {
-  echo "FAIL: $*"
-  failures=$((failures + 1))
-}
+source "$(dirname "$0")/checks.sh"
 
-# An X display number with no server behind it.
-display=917
-while [ -e "/tmp/.X11-unix/X$display" ]; do display=$((display + 1)); done
+display=$(unserved_display)
 
 # case NAME ENV...: runs the program in a scratch folder with only the display
 # variables given, and checks what it did.
@@ -46,5 +40,4 @@ case_ xcb_asked QT_QPA_PLATFORM=xcb DISPLAY=":$display"
 # A Wayland display that nobody serves, on a session that says it is Wayland.
 case_ wayland_gone WAYLAND_DISPLAY="veridraw-none-$display" XDG_SESSION_TYPE=wayland
 
-[ $failures -eq 0 ] || exit 1
-echo "all checks hold"
+finish

@@ -5,11 +5,7 @@
 #   check_run_script.sh SOURCE_DIR WORK
 set -uo pipefail
 source_dir=$1 work=$2
-failures=0
-fail() {
-  echo "FAIL: $*"
-  failures=$((failures + 1))
-}
+source "$(dirname "$0")/checks.sh"
 
 rm -rf "$work"
 mkdir -p "$work/scripts"
@@ -17,8 +13,7 @@ cp "$source_dir/scripts/run" "$work/scripts/run"
 printf '#!/bin/sh\necho called >"%s/installed"\nexit 1\n' "$work" >"$work/scripts/install-dependencies"
 chmod +x "$work/scripts/run" "$work/scripts/install-dependencies"
 
-display=917
-while [ -e "/tmp/.X11-unix/X$display" ]; do display=$((display + 1)); done
+display=$(unserved_display)
 
 # run NAME EXPECTED_STATUS ENV...
 run() {
@@ -46,5 +41,4 @@ refused wayland_gone 69 WAYLAND_DISPLAY="veridraw-none-$display" XDG_RUNTIME_DIR
 run offscreen 1 QT_QPA_PLATFORM=offscreen
 [ -e "$work/installed" ] || fail "offscreen: it didn't go on to the installation"
 
-[ $failures -eq 0 ] || exit 1
-echo "all checks hold"
+finish
