@@ -35,12 +35,20 @@ for program in "$root"/usr/bin/*; do
   need_file "$page"
   [ -f "$root/$page" ] && gzip -t "$root/$page" || fail "/$page is not gzip"
 done
+# A page that only points to another (.so) points to one that is there.
+for page in "$root"/usr/share/man/man1/*.gz; do
+  target=$(zcat "$page" | sed -n '1s/^\.so //p')
+  [ -z "$target" ] || [ -f "$root/usr/share/man/$target.gz" ] || fail "${page##*/} points to a missing $target"
+done
 zcat "$root/usr/share/man/man1/veridraw.1.gz" | grep -q '^\.TH VERIDRAW 1 ' || fail "veridraw(1) has no title"
 for section in NAME SYNOPSIS DESCRIPTION KEYS FILES "EXIT STATUS"; do
   zcat "$root/usr/share/man/man1/veridraw.1.gz" | grep -q "^\.SH $section\$" ||
     fail "veridraw(1) has no $section section"
 done
-zcat "$root/usr/share/man/man1/veridraw.1.gz" | grep -q '@' && fail "veridraw(1) holds an unreplaced @ placeholder"
+for page in "$root"/usr/share/man/man1/*.gz; do
+  zcat "$page" | grep -Eq '@[A-Z_]+@' && fail "${page##*/} holds a placeholder"
+done
+grep -Eq '@[A-Z_]+@' "$root/usr/share/metainfo/$id.metainfo.xml" && fail "the metadata holds a placeholder"
 # The page names the folder of the delivered files, and that folder is there.
 named=$(zcat "$root/usr/share/man/man1/veridraw.1.gz" | sed -n 's|^\.I \(/usr/share/veridraw\)$|\1|p')
 [ -n "$named" ] && [ -d "$root$named" ] || fail "veridraw(1) names no delivered folder that exists"
