@@ -15,7 +15,11 @@ png_size() { od -An -tu1 -j16 -N8 "$1" | awk '{print $1*16777216+$2*65536+$3*256
 need_program usr/bin/veridraw
 need_program usr/bin/veridraw-script
 need_program usr/bin/veridraw-start
-head -c4 "$root/usr/bin/veridraw" | grep -q ELF || fail "usr/bin/veridraw is not a program"
+for program in veridraw veridraw-script; do
+  head -c4 "$root/usr/bin/$program" | grep -q ELF || fail "usr/bin/$program is not a program"
+  sections=$(readelf -SW "$root/usr/bin/$program")
+  grep -Eq ' \.(debug_info|symtab|comment) ' <<<"$sections" && fail "usr/bin/$program is not stripped"
+done
 [ "$(head -n1 "$root/usr/bin/veridraw-start")" = "#!/bin/sh" ] || fail "the launcher is not a sh script"
 
 need_file "usr/share/applications/$id.desktop"
