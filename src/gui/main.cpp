@@ -3,6 +3,7 @@
 // start screen.
 #include <unistd.h>
 #include <QApplication>
+#include <QByteArray>
 #include <QIcon>
 #include <QString>
 #include <cstdio>
@@ -49,23 +50,28 @@ bool noDisplayInSight() {
 // messages go out as Qt would have shown them.
 QtMessageHandler qtHandler = nullptr;
 bool connecting = false;
-// A held message keeps its context's pointers, which Qt takes from string
-// literals (file, function, category name).
+// A held message keeps copies of its context's texts: a plugin that failed to
+// load may be gone, with its strings, by the time the message goes out.
 struct HeldMessage {
   QtMsgType type;
-  const char* file;
+  QByteArray file;
   int line;
-  const char* function;
-  const char* category;
+  QByteArray function;
+  QByteArray category;
   QString text;
 };
 std::vector<HeldMessage> heldMessages;
 
+// The text of a held context field, or null where the context had none.
+const char* orNull(const QByteArray& text) {
+  return text.isNull() ? nullptr : text.constData();
+}
+
 void startUpMessages(QtMsgType type, const QMessageLogContext& context, const QString& message) {
   if (connecting && type == QtFatalMsg) noDisplay();
   if (connecting)
-    heldMessages.push_back(
-        {type, context.file, context.line, context.function, context.category, message});
+    heldMessages.push_back({type, QByteArray(context.file), context.line,
+                            QByteArray(context.function), QByteArray(context.category), message});
   else
     qtHandler(type, context, message);
 }
@@ -73,7 +79,8 @@ void startUpMessages(QtMsgType type, const QMessageLogContext& context, const QS
 void connected() {
   connecting = false;
   for (const HeldMessage& held : heldMessages) {
-    const QMessageLogContext context(held.file, held.line, held.function, held.category);
+    const QMessageLogContext context(orNull(held.file), held.line, orNull(held.function),
+                                     orNull(held.category));
     qtHandler(held.type, context, held.text);
   }
   heldMessages.clear();
