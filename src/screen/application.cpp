@@ -22,6 +22,26 @@ Form& Application::form(std::string_view name) const {
   throw std::logic_error("no form " + std::string(name));
 }
 
+namespace {
+
+// The first control after `from` in tab order (before it, when going
+// backwards), wrapping round, that `wanted` accepts; null if none does. With
+// no `from` the walk starts at the first control.
+template <class Wanted>
+Control* nextInTabOrder(const Form& form, const Control* from, bool backwards, Wanted&& wanted) {
+  std::vector<Control*> order = form.tabOrder();
+  if (backwards) std::reverse(order.begin(), order.end());
+  const auto start = std::find(order.begin(), order.end(), from);
+  const std::size_t first = start == order.end() ? 0 : std::size_t(start - order.begin()) + 1;
+  for (std::size_t step = 0; step < order.size(); ++step) {
+    Control* candidate = order[(first + step) % order.size()];
+    if (wanted(candidate)) return candidate;
+  }
+  return nullptr;
+}
+
+}  // namespace
+
 template <class Action>
 void Application::dispatch(Action&& action) {
   if (state_ != State::Running) return;
@@ -115,16 +135,10 @@ void Application::focusFirst(Form& form) {
 }
 
 void Application::moveFocus(Form& form, Control* from, bool backwards) {
-  std::vector<Control*> order = form.tabOrder();
-  if (backwards) std::reverse(order.begin(), order.end());
-  const auto start = std::find(order.begin(), order.end(), from);
-  const std::size_t first = start == order.end() ? 0 : std::size_t(start - order.begin()) + 1;
-  for (std::size_t step = 0; step < order.size(); ++step) {
-    Control* candidate = order[(first + step) % order.size()];
-    if (candidate->canTakeFocus() && candidate->tabStop()) {
-      form.setFocusPointer(candidate);
-      return;
-    }
+  const auto isTabStop = [](const Control* c) { return c->canTakeFocus() && c->tabStop(); };
+  if (Control* next = nextInTabOrder(form, from, backwards, isTabStop)) {
+    form.setFocusPointer(next);
+    return;
   }
   // No tab stop is left: the focus stays where it is, if it still can.
   form.setFocusPointer(from != nullptr && from->canTakeFocus() ? from : nullptr);
@@ -243,18 +257,34 @@ void Application::typeCharacter(char c) {
   });
 }
 
+std::vector<Control*> Application::accessKeyOwners(Form& form, char letter) {
+  const char wanted = static_cast<char>(std::toupper(static_cast<unsigned char>(letter)));
+  std::vector<Control*> owners;
+  for (Control* control : form.tabOrder())
+    if (control->kind() == ControlKind::CommandButton && control->canTakeFocus() &&
+        control->accessKey() == wanted)
+      owners.push_back(control);
+  return owners;
+}
+
 void Application::pressAccessKey(char letter) {
   dispatch([&] {
     if (active_ == nullptr) return;
-    const char wanted = static_cast<char>(std::toupper(static_cast<unsigned char>(letter)));
-    for (Control* control : active_->tabOrder()) {
-      if (control->kind() == ControlKind::CommandButton && control->canTakeFocus() &&
-          control->accessKey() == wanted) {
-        active_->setFocusPointer(control);
-        active_->raise(Event::Click, *control);
-        return;
-      }
+    Form& form = *active_;
+    const std::vector<Control*> owners = accessKeyOwners(form, letter);
+    if (owners.empty()) return;
+    if (owners.size() == 1) {
+      form.setFocusPointer(owners.front());
+      form.raise(Event::Click, *owners.front());
+      return;
     }
+    // A letter that several buttons on screen share presses none of them: the
+    // focus moves to the first of them after the focused control in tab order,
+    // wrapping, and Enter or Space then presses it.
+    const auto isOwner = [&owners](const Control* c) {
+      return std::find(owners.begin(), owners.end(), c) != owners.end();
+    };
+    form.setFocusPointer(nextInTabOrder(form, form.focus(), false, isOwner));
   });
 }
 

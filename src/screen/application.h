@@ -70,6 +70,9 @@ class Application {
   void selectItem(Control& list, int index);
   void pressKey(Key key);
   void typeCharacter(char c);
+  // Alt and a letter: a button that alone on the form on screen has that
+  // access key is clicked; when several have it, the focus moves on to the
+  // next of them in tab order, and nothing is clicked.
   void pressAccessKey(char letter);
   void closeWindow();
 
@@ -81,6 +84,8 @@ class Application {
   void focusFirst(Form& form);
   void keyOnTextBox(Control& box, Key key);
   void keyOnList(Control& list, Key key);
+  // The visible, enabled buttons whose access key is `letter`, in tab order.
+  static std::vector<Control*> accessKeyOwners(Form& form, char letter);
 
   Dialogs& dialogs_;
   SequentialFiles files_;
