@@ -192,15 +192,25 @@ void Application::keyOnTextBox(Control& box, Key key) {
 
 void Application::keyOnList(Control& list, Key key) {
   const int last = list.listCount() - 1;
-  int wanted = list.listIndex();
+  const int current = list.listIndex();
+  // Page Up and Page Down move by a page less one row, as platform list boxes
+  // do, so that the item at one edge of the view comes to stand at the other.
+  const int page = std::max(1, list.visibleRows() - 1);
+  int wanted = current;
   switch (key) {
     case Key::Up:
     case Key::Left:
-      wanted = std::max(0, wanted - 1);
+      wanted = std::max(0, current - 1);
       break;
     case Key::Down:
     case Key::Right:
-      wanted = std::min(last, wanted + 1);
+      wanted = std::min(last, current + 1);
+      break;
+    case Key::PageUp:
+      wanted = std::max(0, current - page);
+      break;
+    case Key::PageDown:
+      wanted = std::min(last, std::max(current, 0) + page);
       break;
     case Key::Home:
       wanted = 0;
@@ -211,8 +221,27 @@ void Application::keyOnList(Control& list, Key key) {
     default:
       return;
   }
-  if (last < 0 || wanted == list.listIndex()) return;
-  list.selectItem(wanted);
+  userSelects(list, wanted);
+}
+
+void Application::typeOnList(Control& list, char c) {
+  // The next item after the selection that begins with the character, in
+  // either case, wrapping round; the selected item itself comes last.
+  const auto folded = [](char letter) { return std::toupper(static_cast<unsigned char>(letter)); };
+  const int count = list.listCount();
+  for (int step = 1; step <= count; ++step) {
+    const int index = (list.listIndex() + step) % count;
+    const std::string& item = list.items()[static_cast<std::size_t>(index)];
+    if (!item.empty() && folded(item.front()) == folded(c)) {
+      userSelects(list, index);
+      return;
+    }
+  }
+}
+
+void Application::userSelects(Control& list, int index) {
+  if (list.listCount() == 0 || index == list.listIndex()) return;
+  list.selectItem(index);
   list.form().raise(Event::Click, list);
 }
 
@@ -253,7 +282,9 @@ void Application::typeCharacter(char c) {
   if (c == ' ') return pressKey(Key::Space);
   dispatch([&] {
     Control* focused = focus();
-    if (focused != nullptr && focused->kind() == ControlKind::TextBox) focused->typeCharacter(c);
+    if (focused == nullptr) return;
+    if (focused->kind() == ControlKind::TextBox) focused->typeCharacter(c);
+    if (focused->kind() == ControlKind::ListBox) typeOnList(*focused, c);
   });
 }
 
