@@ -269,7 +269,10 @@ QAccessibleInterface* makeInterface(const QString&, QObject* object) {
   return nullptr;
 }
 
+AccessibleEventListener listener = nullptr;
+
 void send(QAccessibleEvent&& event) {
+  if (listener != nullptr) return listener(&event);
   QAccessible::updateAccessibility(&event);
 }
 
@@ -287,10 +290,12 @@ void installAccessibility() {
   (void)installed;
 }
 
+void setAccessibleEventListener(AccessibleEventListener newListener) {
+  listener = newListener;
+}
+
 void announceChange(ControlView& view, const ControlLook& before) {
-  // A window being made is announced as a whole when it is shown. Like Qt's
-  // own widgets, the view reports whether or not a screen reader listens:
-  // Qt passes the event on only to one that does.
+  // A window being made is announced as a whole when it is shown.
   if (!view.window()->isVisible()) return;
   const ControlLook& after = view.look();
   switch (after.kind) {

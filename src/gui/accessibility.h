@@ -7,6 +7,8 @@
 // reader what changed in a view.
 #pragma once
 
+class QAccessibleEvent;
+
 namespace veridraw::gui {
 
 class ControlView;
@@ -17,9 +19,15 @@ struct ControlLook;
 // calls do nothing.
 void installAccessibility();
 
+// Where the events of this layer go: to Qt's accessibility, which passes them
+// on only while a screen reader listens, unless a listener of one's own is
+// set here (null puts Qt back). Qt reports a view shown or hidden by itself.
+using AccessibleEventListener = void (*)(QAccessibleEvent* event);
+void setAccessibleEventListener(AccessibleEventListener listener);
+
 // Tells a screen reader what changed in the view since it showed `before`:
 // its text or caption, its list, its caret, whether it is enabled, and the
-// model's focus coming to it. Showing and hiding Qt reports by itself.
+// model's focus coming to it.
 void announceChange(ControlView& view, const ControlLook& before);
 
 // Tells a screen reader where the model's focus is in the window, as when the
