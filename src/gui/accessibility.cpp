@@ -2,6 +2,7 @@
 
 #include <QAccessible>
 #include <QAccessibleWidget>
+#include <QApplication>
 #include <QFontMetrics>
 #include <QPointer>
 #include <QWindow>
@@ -335,9 +336,10 @@ void announceChange(ControlView& view, const ControlLook& before) {
     changed.disabled = true;
     send(QAccessibleStateChangeEvent(&view, changed));
   }
-  // While another window, a message box, stands in front, the focus is
-  // announced when this window is back.
-  if (after.focused && !before.focused && view.window()->isActiveWindow()) sendFocus(view);
+  // While a message box stands, the reader stays with it; the focus is
+  // announced again when the window is back in front.
+  if (after.focused && !before.focused && QApplication::activeModalWidget() == nullptr)
+    sendFocus(view);
 }
 
 void announceFocus(const FormWindow& window) {
