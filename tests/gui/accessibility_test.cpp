@@ -77,19 +77,14 @@ class AccessibilityTest : public QObject, public ScreenChecks {
     QCOMPARE(window->focusChild(), &object("BtnStart"));
     expectEveryControlNamed();
 
-    expect("BtnStart", QAccessible::Button, "Press Enter to Start");
-    QCOMPARE(object("BtnStart").text(QAccessible::Accelerator), "Alt+E");
+    expectButton("BtnStart", "Press Enter to Start", "Alt+E", "focused focusable");
     QCOMPARE(object("BtnStart").text(QAccessible::Description), "Press Enter to start Veridraw");
-    expectStates("BtnStart", "focused focusable");
-    expect("CmdForm1Exit", QAccessible::Button, "Exit");
-    QCOMPARE(object("CmdForm1Exit").text(QAccessible::Accelerator), "Alt+X");
-    expectStates("CmdForm1Exit", "focusable");
+    expectButton("CmdForm1Exit", "Exit", "Alt+X", "focusable");
     expect("Label5", QAccessible::StaticText, "Check your Lotto tickets for prizes");
     expectStates("Label5", "");
     // Pictures are named by what they show, their tool-tip is their description.
-    expect("Btn1Lotto", QAccessible::Button, "Lotto");
+    expectButton("Btn1Lotto", "Lotto", "", "focusable");
     QCOMPARE(object("Btn1Lotto").text(QAccessible::Description), "PRESS ENTER");
-    QCOMPARE(object("Btn1Lotto").text(QAccessible::Accelerator), "");
     expect("OLE1", QAccessible::Graphic, "Lotto: Six numbers from 1 to 40 and a Bonus number.");
     expect("OLE7", QAccessible::Graphic, "Veridraw mark");
     expect("CmdNotice", QAccessible::Button, "Veridraw is free to use and to share");
@@ -116,20 +111,16 @@ class AccessibilityTest : public QObject, public ScreenChecks {
     QTest::keyClick(program_->window(), Qt::Key_R, Qt::AltModifier);
     QCOMPARE(program_->window()->form().name(), "Veridraw7d");
     expectEveryControlNamed();
-    expect("BtnStart", QAccessible::Button, "Start");
-    QCOMPARE(object("BtnStart").text(QAccessible::Accelerator), "Alt+S");
-    expectStates("BtnStart", "focused focusable");
-    expect("CmdDisclaimer", QAccessible::Button, "Disclaimer");
-    QCOMPARE(object("CmdDisclaimer").text(QAccessible::Accelerator), "Alt+D");
+    expectButton("BtnStart", "Start", "Alt+S", "focused focusable");
+    expectButton("CmdDisclaimer", "Disclaimer", "Alt+D", "focusable");
     expect("Label7", QAccessible::StaticText, "Instructions");
   }
 
   void theDrawScreenReadsAsItsControls() {
     openDrawScreen();
     expectEveryControlNamed();
-    expect("BtnEnterLottoDrawNumbers", QAccessible::Button, "Enter Lotto Winning Numbers");
-    QCOMPARE(object("BtnEnterLottoDrawNumbers").text(QAccessible::Accelerator), "Alt+L");
-    expectStates("BtnEnterLottoDrawNumbers", "focused focusable");
+    expectButton("BtnEnterLottoDrawNumbers", "Enter Lotto Winning Numbers", "Alt+L",
+                 "focused focusable");
     expect("BtnCancel", QAccessible::Button, "Cancel");
     expectStates("BtnCancel", "invisible");
     expect("TxtDrawBox", QAccessible::EditableText, "Current Draw Number");
@@ -232,18 +223,14 @@ class AccessibilityTest : public QObject, public ScreenChecks {
   void theLottoScreenReadsAsItsControls() {
     openTicketScreen(*program_, "Btn1Lotto");
     expectEveryControlNamed();
-    expect("BtnCheckNewTicket", QAccessible::Button, "Check New Ticket");
-    QCOMPARE(object("BtnCheckNewTicket").text(QAccessible::Accelerator), "Alt+N");
-    expectStates("BtnCheckNewTicket", "focused focusable");
+    expectButton("BtnCheckNewTicket", "Check New Ticket", "Alt+N", "focused focusable");
     expect("LineA", QAccessible::EditableText, "Line A, number 1", 1);
     expect("LineA", QAccessible::EditableText, "Line B, number 3", 9);
     expect("LineA", QAccessible::EditableText, "Line J, number 1", 49);
     expect("LineA", QAccessible::EditableText, "Line O, number 6", 84);
     expect("LineA", QAccessible::EditableText, "Spare cell", 85);
     expect("IntResult", QAccessible::EditableText, "Prize grid, line B, number 1", 7);
-    expect("BtnLineM", QAccessible::Button, "Line M");
-    QCOMPARE(object("BtnLineM").text(QAccessible::Accelerator), "Alt+M");
-    expectStates("BtnLineM", "invisible");
+    expectButton("BtnLineM", "Line M", "Alt+M", "invisible");
     expect("TxtDivision1", QAccessible::EditableText, "Division 1 prize");
     expect("TxtLottoPrizes", QAccessible::EditableText, "LOTTO PRIZES");
     expect("List2", QAccessible::List, "Saved Tickets");
@@ -260,8 +247,7 @@ class AccessibilityTest : public QObject, public ScreenChecks {
     expect("TxtStrike1", QAccessible::EditableText, "Strike 1 prize");
     expect("Txt1ST", QAccessible::EditableText, "2ND", 2);
     expect("IntResult", QAccessible::EditableText, "Prize grid, line C, number 4", 12);
-    expect("BtnLineC", QAccessible::Button, "Line C");
-    QCOMPARE(object("BtnLineC").text(QAccessible::Accelerator), "Alt+C");
+    expectButton("BtnLineC", "Line C", "Alt+C", "invisible");
   }
 
   void thePowerBallScreenReadsAsItsControls() {
@@ -308,6 +294,14 @@ class AccessibilityTest : public QObject, public ScreenChecks {
 
   void expectStates(const char* name, const QString& states, int index = kNotInArray) {
     QCOMPARE(stateWords(object(name, index).state()), states);
+  }
+
+  // A button: its caption is its name, its access key its shortcut.
+  void expectButton(const char* name, const QString& caption, const QString& shortcut,
+                    const QString& states) {
+    expect(name, QAccessible::Button, caption);
+    QCOMPARE(object(name).text(QAccessible::Accelerator), shortcut);
+    expectStates(name, states);
   }
 
   // No control is left a nameless pane: each has the role of its kind and a
