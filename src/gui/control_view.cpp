@@ -6,7 +6,9 @@
 #include <QSignalBlocker>
 #include <QWheelEvent>
 #include <algorithm>
+#include <utility>
 
+#include "gui/accessibility.h"
 #include "gui/appearance.h"
 #include "gui/control_painting.h"
 #include "gui/form_window.h"
@@ -30,6 +32,7 @@ ControlView::ControlView(FormWindow& window, Control& control)
   setFocusPolicy(Qt::NoFocus);
   // The model has no way to change a tool-tip: it is set once.
   setToolTip(fromWindows1252(control.toolTipText()));
+  look_.kind = control.kind();
   if (control.kind() != ControlKind::ListBox) return;
   scrollBar_ = new QScrollBar(Qt::Vertical, this);
   scrollBar_->setFocusPolicy(Qt::NoFocus);
@@ -51,8 +54,9 @@ void ControlView::sync(const Control& control, bool focused) {
   ControlLook look = look_;
   updateLook(look, sources_, control, focused);
   if (look != look_) {
-    look_ = std::move(look);
+    const ControlLook before = std::exchange(look_, std::move(look));
     update();
+    announceChange(*this, before);
   }
   if (scrollBar_ != nullptr) syncScrollBar();
 }
