@@ -97,10 +97,17 @@ for name in Maintainer Section Priority Description Installed-Size; do
 done
 depends=$(field Depends)
 echo "Depends: $depends"
-# The names of the packages depended on, one a line, without versions.
-depended=$(sed 's/, */\n/g' <<<"$depends" | sed 's/[ (].*//')
-for package in libc6 libstdc++6 libqt6core6 libqt6gui6 libqt6widgets6 ${extra//;/ }; do
+# The clauses of Depends, one a line; the names of the libraries' packages
+# without their versions.
+clauses=$(sed 's/, */\n/g' <<<"$depends")
+depended=$(sed 's/[ (].*//' <<<"$clauses")
+for package in libc6 libstdc++6 libqt6core6 libqt6gui6 libqt6widgets6; do
   grep -qxF "$package" <<<"$depended" || fail "Depends lacks $package"
+done
+# Each extra dependency stands as a clause of its own, alternatives included.
+IFS=';' read -r -a extras <<<"$extra"
+for clause in "${extras[@]}"; do
+  grep -qxF "$clause" <<<"$clauses" || fail "Depends lacks $clause"
 done
 
 echo "$(stat -c %s "$deb") bytes: ${deb##*/}"
