@@ -30,14 +30,28 @@ using namespace veridraw;
   std::abort();
 }
 
-// The one working directory of the process, emptied before each input.
-const fs::path& workingDirectory() {
-  static const fs::path directory = [] {
+// The one working directory of the process, emptied before each input and
+// removed when the process ends.
+class WorkingDirectory {
+ public:
+  WorkingDirectory() {
     std::string pattern = (fs::temp_directory_path() / "veridraw-fuzz-XXXXXX").string();
     if (mkdtemp(pattern.data()) == nullptr) broken("can't make a working directory");
-    return fs::path(pattern);
-  }();
-  return directory;
+    path_ = pattern;
+  }
+  ~WorkingDirectory() {
+    std::error_code ignored;
+    fs::remove_all(path_, ignored);
+  }
+  const fs::path& path() const { return path_; }
+
+ private:
+  fs::path path_;
+};
+
+const fs::path& workingDirectory() {
+  static const WorkingDirectory directory;
+  return directory.path();
 }
 
 void emptyDirectory() {

@@ -65,6 +65,8 @@ std::string stateCheck(const Application& program) {
   }
 }
 
+const std::vector<int> kOddButtons = {0, 2, 3, 5, 99, -1};
+
 bool isExitButton(const Control& control) {
   return control.name() == "CmdEnd" || control.name() == "CmdForm1Exit";
 }
@@ -141,6 +143,11 @@ class SessionDialogs : public Dialogs {
   int MsgBox(const std::string&, int buttons, const std::string&) override {
     int answer = msgbox::kOk;
     if ((buttons & msgbox::kYesNo) != 0) answer = below(2) == 0 ? msgbox::kYes : msgbox::kNo;
+    if (!tidy_ && below(10) == 0) {
+      // A number that no button of the box gives.
+      answer = kOddButtons[below(static_cast<unsigned>(kOddButtons.size()))];
+      oddAnswerGiven = true;
+    }
     replies.push_back("reply " + std::to_string(answer));
     return answer;
   }
