@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <iostream>
 #include <string>
+#include <vector>
 
 #include "random/session.h"
 #include "unit/play_scenario.h"
@@ -22,8 +23,8 @@ std::uint64_t fromEnvironment(const char* name, std::uint64_t otherwise) {
   return value != nullptr && *value != '\0' ? std::strtoull(value, nullptr, 10) : otherwise;
 }
 
-constexpr std::uint64_t kSessionsInCi = 40;
-constexpr int kEventsPerSession = 250;
+constexpr std::uint64_t kSessionsInCi = 25;
+constexpr int kEventsPerSession = 200;
 
 void playMany(bool tidy) {
   const std::uint64_t sessions = fromEnvironment("VERIDRAW_SESSIONS", kSessionsInCi);
@@ -58,10 +59,10 @@ TEST(RandomSessions, UntidySessionsEndOnlyByForeseenErrorsAndKeepFilesWhole) {
 // the session ended and leaves the same files.
 TEST(RandomSessions, TheScenarioOfASessionReplaysIt) {
   int replayed = 0;
-  for (std::uint64_t seed = 1; seed <= 6; ++seed) {
+  for (std::uint64_t seed = 1; seed <= 4; ++seed) {
     for (const bool tidy : {true, false}) {
       testing::TemporaryDirectory dir;
-      const SessionResult session = playSession(seed, {tidy, 150, nullptr}, dir.path());
+      const SessionResult session = playSession(seed, {tidy, 120, nullptr}, dir.path());
       ASSERT_TRUE(session.passed) << session.failure;
       ASSERT_NE(session.scenario.find("\nexpect "), std::string::npos);
       const testing::Played played = testing::play(session.scenario);
@@ -71,7 +72,7 @@ TEST(RandomSessions, TheScenarioOfASessionReplaysIt) {
       ++replayed;
     }
   }
-  EXPECT_EQ(replayed, 12);
+  EXPECT_EQ(replayed, 8);
 }
 
 // The checks can fail: with a folder where "DrawNumber" should be, the draw
@@ -90,26 +91,37 @@ TEST(RandomSessions, AnUnforeseenErrorFailsTheSessionAndIsWrittenDown) {
   EXPECT_EQ(session.scenario.substr(session.scenario.size() - ending.size()), ending);
 }
 
+struct NamedFile {
+  std::string name;
+  std::string content;
+};
+
 TEST(WholeFiles, FilesAsTheProgramWritesThemAreWhole) {
-  EXPECT_EQ(wholenessProblem("DrawNumber", "705\r\n"), "");
-  EXPECT_EQ(wholenessProblem("705", "705\r\nX0308172239401202\r\nZ17033908\r\n"), "");
-  EXPECT_EQ(wholenessProblem("706", "706\r\n\r\nZ17033908\r\n"), "");
-  EXPECT_EQ(wholenessProblem("7a", "7a\r\nX  \r\n\r\n"), "");
-  EXPECT_EQ(wholenessProblem("Lotto # 7", " 4 \r\nLotto # 7\r\n 0102\r\n"), "");
-  EXPECT_EQ(wholenessProblem("P-Ball # 7", " 1 \r\nP-Ball # 7\r\n 010203040506\r\n0102\r\n"), "");
-  EXPECT_EQ(wholenessProblem("TicketNumber", "Strike # 2\r\n"), "");
+  for (const NamedFile& file : std::vector<NamedFile>{
+           {"DrawNumber", "705\r\n"},
+           {"705", "705\r\nX0308172239401202\r\nZ17033908\r\n"},
+           {"706", "706\r\n\r\nZ17033908\r\n"},
+           {"7a", "7a\r\nX  \r\n\r\n"},
+           {"Lotto # 7", " 4 \r\nLotto # 7\r\n 0102\r\n"},
+           {"P-Ball # 7", " 1 \r\nP-Ball # 7\r\n 010203040506\r\n0102\r\n"},
+           {"TicketNumber", "Strike # 2\r\n"},
+       })
+    EXPECT_EQ(wholenessProblem(file.name, file.content), "") << file.name;
 }
 
 TEST(WholeFiles, FilesCutShortOrMixedUpAreNot) {
-  EXPECT_NE(wholenessProblem("DrawNumber", ""), "");
-  EXPECT_NE(wholenessProblem("DrawNumber", "70"), "");
-  EXPECT_NE(wholenessProblem("705", "705\r\nX0308172239401202\r\n"), "");
-  EXPECT_NE(wholenessProblem("705", "705\r\nX0308172239401202\r\nZ1703"), "");
-  EXPECT_NE(wholenessProblem("705", "706\r\n\r\n\r\n"), "");
-  EXPECT_NE(wholenessProblem("705", "705\r\nZ17033908\r\n\r\n"), "");
-  EXPECT_NE(wholenessProblem("Lotto # 7", " 4 \r\nLotto # 7\r\n"), "");
-  EXPECT_NE(wholenessProblem("Lotto # 7", " 4 \r\nLotto # 8\r\n 0102\r\n"), "");
-  EXPECT_NE(wholenessProblem("P-Ball # 7", " 1 \r\nP-Ball # 7\r\n 010203040506\r\n"), "");
+  for (const NamedFile& file : std::vector<NamedFile>{
+           {"DrawNumber", ""},
+           {"DrawNumber", "70"},
+           {"705", "705\r\nX0308172239401202\r\n"},
+           {"705", "705\r\nX0308172239401202\r\nZ1703"},
+           {"705", "706\r\n\r\n\r\n"},
+           {"705", "705\r\nZ17033908\r\n\r\n"},
+           {"Lotto # 7", " 4 \r\nLotto # 7\r\n"},
+           {"Lotto # 7", " 4 \r\nLotto # 8\r\n 0102\r\n"},
+           {"P-Ball # 7", " 1 \r\nP-Ball # 7\r\n 010203040506\r\n"},
+       })
+    EXPECT_NE(wholenessProblem(file.name, file.content), "") << file.name << ": " << file.content;
 }
 
 }  // namespace
