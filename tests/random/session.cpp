@@ -310,7 +310,9 @@ Session::Action Session::chooseAction() {
       lists.push_back(control.get());
   }
   Control* focused = program_->focus();
-  const bool typingPossible = focused != nullptr && focused->kind() == ControlKind::TextBox;
+  // Keys typed into a list box pick the next item that begins with them.
+  const bool typingPossible = focused != nullptr && (focused->kind() == ControlKind::TextBox ||
+                                                     focused->kind() == ControlKind::ListBox);
   if (below(1000) == 0) {
     Action close{"close", true, [this](Action&) { program_->closeWindow(); }};
     return close;
