@@ -232,7 +232,10 @@ class Session {
   SessionResult result_;
   std::ostringstream scenario_;
   std::map<std::string, std::string> files_;  // as the last event left them
-  std::set<std::string> damaged_;             // cut short or deleted by the session
+  std::set<std::string> damaged_;             // cut short or deleted, not rewritten since
+  // Set by the first damaged file: what the program read from it may end a
+  // later run, also once the file is whole again.
+  bool filesDamaged_ = false;
 };
 
 void Session::emit(const std::string& line) {
@@ -294,6 +297,7 @@ bool Session::damageAFile() {
     emit("file " + nameText(name) + " " + quote(shorter));
   }
   damaged_.insert(name);
+  filesDamaged_ = true;
   files_ = snapshot(directory_);
   noteNumbersOnDisk();
   return true;
@@ -465,7 +469,7 @@ bool Session::check(const Action& action) {
     case Application::State::Fatal: {
       const int number = program.fatalError()->number();
       result_.fatalNumber = number;
-      const bool tainted = damaged_.size() > 0 || dialogs_.oddAnswerGiven;
+      const bool tainted = filesDamaged_ || dialogs_.oddAnswerGiven;
       const bool foreseen = (tainted && kFileAndNameErrors.count(number) > 0) ||
                             (storedPairRefused(files_) && kStoredPairErrors.count(number) > 0);
       if (!foreseen) {
