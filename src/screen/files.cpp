@@ -42,9 +42,9 @@ constexpr std::size_t kLongestName = 255;
 // True when the name, taken as a path from the working directory, ends up
 // outside it: an absolute name, a drive, or more ".." than folders before them.
 bool leavesDirectory(const std::string& name) {
-  if (name.find_first_of(kSeparators) == 0) return true;
   const std::size_t firstEnd = name.find_first_of(kSeparators);
-  if (firstEnd != std::string::npos && firstEnd > 0 && name[firstEnd - 1] == ':') return true;
+  if (firstEnd == 0) return true;
+  if (firstEnd != std::string::npos && name[firstEnd - 1] == ':') return true;
   int depth = 0;
   std::size_t from = 0;
   for (;;) {
