@@ -35,6 +35,31 @@ bool isForbiddenInName(unsigned char c) {
   }
 }
 
+constexpr const char* kSeparators = "/\\";
+// The longest file name that the file systems in use take, in bytes.
+constexpr std::size_t kLongestName = 255;
+
+// True when the name, taken as a path from the working directory, ends up
+// outside it: an absolute name, a drive, or more ".." than folders before them.
+bool leavesDirectory(const std::string& name) {
+  const std::size_t firstEnd = name.find_first_of(kSeparators);
+  if (firstEnd == 0) return true;
+  if (firstEnd != std::string::npos && name[firstEnd - 1] == ':') return true;
+  int depth = 0;
+  std::size_t from = 0;
+  for (;;) {
+    const std::size_t end = name.find_first_of(kSeparators, from);
+    const std::string part = name.substr(from, end == std::string::npos ? end : end - from);
+    if (part == "..") {
+      if (--depth < 0) return true;
+    } else if (!part.empty() && part != ".") {
+      ++depth;
+    }
+    if (end == std::string::npos) return false;
+    from = end + 1;
+  }
+}
+
 bool isLineEnd(char c) {
   return c == '\r' || c == '\n';
 }
@@ -53,13 +78,29 @@ SequentialFiles::~SequentialFiles() {
 }
 
 fs::path SequentialFiles::resolve(const std::string& name) const {
-  if (name.empty() || name == "." || name == "..") raiseFatal(ErrorNumber::BadFileNameOrNumber);
-  if (name.find('/') != std::string::npos || name.find('\\') != std::string::npos)
-    raiseFatal(ErrorNumber::PathNotFound);
+  if (name.empty() || name == ".") raiseFatal(ErrorNumber::BadFileNameOrNumber);
+  // A name that leads out of the working directory is refused before anything
+  // is touched, whether or not the folders on its way exist.
+  if (leavesDirectory(name)) raiseFatal(ErrorNumber::PathFileAccessError);
+  if (name.find_first_of(kSeparators) != std::string::npos) raiseFatal(ErrorNumber::PathNotFound);
   for (const char c : name)
     if (isForbiddenInName(static_cast<unsigned char>(c)))
       raiseFatal(ErrorNumber::BadFileNameOrNumber);
-  return directory_ / name;
+  // Too long a name is a bad name whether it is to be written or read.
+  if (name.size() > kLongestName) raiseFatal(ErrorNumber::BadFileNameOrNumber);
+  fs::path path = directory_ / name;
+  // A link left in the working directory doesn't lead out of it either.
+  std::error_code error;
+  if (fs::is_symlink(path, error) && !isInside(fs::weakly_canonical(path, error)))
+    raiseFatal(ErrorNumber::PathFileAccessError);
+  return path;
+}
+
+bool SequentialFiles::isInside(const fs::path& path) const {
+  std::error_code error;
+  const fs::path home = fs::weakly_canonical(directory_, error);
+  const fs::path relative = path.lexically_relative(home);
+  return !relative.empty() && *relative.begin() != "..";
 }
 
 SequentialFiles::OpenFile& SequentialFiles::slot(int number, FileMode mode) {

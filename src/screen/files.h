@@ -51,7 +51,10 @@ class SequentialFiles {
     std::size_t position = 0;
   };
 
+  // The path of a name in the working directory. Fatal 75 for a name that
+  // leads outside it, 76 for one with a folder, 52 for one the platform can't use.
   std::filesystem::path resolve(const std::string& name) const;
+  bool isInside(const std::filesystem::path& path) const;
   OpenFile& slot(int number, FileMode mode);
   std::string readField(OpenFile& file, bool numeric);
   void flush(OpenFile& file);

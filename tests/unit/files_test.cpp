@@ -184,10 +184,81 @@ TEST_P(FileNames, AreRefusedForInputAndOutput) {
 INSTANTIATE_TEST_SUITE_P(
     Refused, FileNames,
     ::testing::Values(NameCase{"sub/x", 76}, NameCase{"sub\\x", 76}, NameCase{"none/x", 76},
-                      NameCase{"/etc/passwd", 76}, NameCase{"a<b", 52}, NameCase{"a>b", 52},
-                      NameCase{"a:b", 52}, NameCase{"a\"b", 52}, NameCase{"a|b", 52},
-                      NameCase{"a?b", 52}, NameCase{"a*b", 52}, NameCase{"a\x01z", 52},
-                      NameCase{"a\tb", 52}, NameCase{"a\nb", 52}, NameCase{"", 52}));
+                      NameCase{"sub/../x", 76}, NameCase{"/etc/passwd", 75}, NameCase{"../x", 75},
+                      NameCase{"..\\x", 75}, NameCase{"..", 75}, NameCase{"sub/../../x", 75},
+                      NameCase{"none/../../x", 75}, NameCase{"C:/x", 75},
+                      NameCase{"\\server\\x", 75}, NameCase{".", 52},
+                      NameCase{std::string(256, '7'), 52},
+                      NameCase{"1" + std::string(299, 'a'), 52}, NameCase{"a<b", 52},
+                      NameCase{"a>b", 52}, NameCase{"a:b", 52}, NameCase{"a\"b", 52},
+                      NameCase{"a|b", 52}, NameCase{"a?b", 52}, NameCase{"a*b", 52},
+                      NameCase{"a\x01z", 52}, NameCase{"a\tb", 52}, NameCase{"a\nb", 52},
+                      NameCase{"", 52}));
+
+TEST_P(FileNames, AreRefusedForKill) {
+  fs::create_directory(dir.path() / "sub");
+  dir.write("sub/x", "inside a folder\r\n");
+  EXPECT_EQ(fatalNumberOf([&] { files.Kill(GetParam().name); }), GetParam().error);
+  EXPECT_EQ(dir.read("sub/x"), "inside a folder\r\n");
+}
+
+// The working directory is a folder inside the test's own, so that a name that
+// led out of it would land where the test can see it.
+class NamesLeadingOut : public ::testing::Test {
+ protected:
+  NamesLeadingOut() {
+    fs::create_directory(dir.path() / "work");
+    fs::create_directory(dir.path() / "work" / "sub");
+    dir.write("705", "outside\r\n");
+  }
+  testing::TemporaryDirectory dir;
+  SequentialFiles files{dir.path() / "work"};
+};
+
+TEST_F(NamesLeadingOut, AreFatal75BeforeAnythingIsCreatedReadOrDeleted) {
+  for (const std::string& name :
+       std::vector<std::string>{"../705", "../new", "sub/../../705", "sub/../../new",
+                                "missing/../../new", (dir.path() / "new").string()}) {
+    EXPECT_EQ(fatalNumberOf([&] { files.Open(name, FileMode::Output, 1); }), 75) << name;
+    EXPECT_EQ(fatalNumberOf([&] { files.Open(name, FileMode::Input, 1); }), 75) << name;
+    EXPECT_EQ(fatalNumberOf([&] { files.Kill(name); }), 75) << name;
+    EXPECT_EQ(files.Dir(name), "") << name;
+  }
+  EXPECT_FALSE(dir.exists("new"));
+  EXPECT_EQ(dir.read("705"), "outside\r\n");
+  // Nothing was opened, so every number is still free.
+  EXPECT_EQ(fatalNumberOf([&] { files.Open("x", FileMode::Output, 1); }), 0);
+}
+
+TEST_F(NamesLeadingOut, ALinkOutOfTheFolderIsFatal75) {
+  fs::create_symlink(dir.path() / "705", dir.path() / "work" / "705");
+  EXPECT_EQ(fatalNumberOf([&] { files.Open("705", FileMode::Input, 1); }), 75);
+  EXPECT_EQ(fatalNumberOf([&] { files.Open("705", FileMode::Output, 1); }), 75);
+  EXPECT_EQ(fatalNumberOf([&] { files.Kill("705"); }), 75);
+  EXPECT_EQ(dir.read("705"), "outside\r\n");
+}
+
+TEST_F(NamesLeadingOut, ALinkWithinTheFolderIsFollowed) {
+  dir.write("work/sub/target", "705\r\n");
+  fs::create_symlink(dir.path() / "work" / "sub" / "target", dir.path() / "work" / "705");
+  std::string field;
+  files.Open("705", FileMode::Input, 1);
+  files.Input(1, field);
+  files.Close(1);
+  EXPECT_EQ(field, "705");
+}
+
+TEST_F(FilesTest, ATooLongNameIsFatal52BothWays) {
+  const std::string name = "1" + std::string(299, 'a');
+  EXPECT_EQ(fatalNumberOf([&] { files.Open(name, FileMode::Output, 1); }), 52);
+  EXPECT_EQ(fatalNumberOf([&] { files.Open(name, FileMode::Input, 1); }), 52);
+  // The longest name that may be is an ordinary name.
+  const std::string longest(255, 'a');
+  files.Open(longest, FileMode::Output, 1);
+  files.Print(1, std::string("x"));
+  files.Close(1);
+  EXPECT_EQ(dir.read(longest), "x\r\n");
+}
 
 TEST_F(FilesTest, AFolderIsFatal75) {
   fs::create_directory(dir.path() / "705");
