@@ -1,5 +1,9 @@
 #include "screen/files.h"
 
+#include <sys/stat.h>
+
+#include <algorithm>
+#include <array>
 #include <cerrno>
 #include <fstream>
 #include <iterator>
@@ -183,8 +187,20 @@ std::string SequentialFiles::Dir(const std::string& name) const {
   if (name.empty() || name == "." || name == ".." || name.front() == '.') return "";
   for (const char c : name)
     if (c == '/' || c == '\\' || isForbiddenInName(static_cast<unsigned char>(c))) return "";
-  std::error_code error;
-  return fs::is_regular_file(directory_ / name, error) ? name : "";
+  // The full name is put together in a buffer on the stack, so that a probe
+  // costs one stat call and no allocation: the draw screen makes 1600 of them.
+  const std::string& folder = directory_.native();
+  std::array<char, 4096> path;
+  if (folder.size() + 1 + name.size() + 1 > path.size()) {
+    std::error_code error;
+    return fs::is_regular_file(directory_ / name, error) ? name : "";
+  }
+  char* end = std::copy(folder.begin(), folder.end(), path.data());
+  if (!folder.empty() && folder.back() != '/') *end++ = '/';
+  end = std::copy(name.begin(), name.end(), end);
+  *end = '\0';
+  struct stat status;
+  return ::stat(path.data(), &status) == 0 && S_ISREG(status.st_mode) ? name : "";
 }
 
 }  // namespace veridraw
