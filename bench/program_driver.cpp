@@ -4,6 +4,7 @@
 #include <fstream>
 #include <stdexcept>
 
+#include "runner/working_directory.h"
 #include "shell/program.h"
 #include "tickets/ticket_game.h"
 
@@ -12,9 +13,7 @@ namespace veridraw::bench {
 namespace fs = std::filesystem;
 
 TemporaryFolder::TemporaryFolder() {
-  std::string pattern = (fs::temp_directory_path() / "veridraw-bench-XXXXXX").string();
-  if (mkdtemp(pattern.data()) == nullptr) throw std::runtime_error("no temporary folder");
-  path_ = pattern;
+  path_ = script::makeWorkingDirectory("veridraw-bench");
   write("DrawNumber", "720\r\n");
   write("720", "720\r\nX0308172239401205\r\n\r\n");
 }

@@ -41,6 +41,18 @@ TEST_F(DirProbeTest, NamesWithBlanksAndHighBytesAreProbedAsTheyStand) {
   EXPECT_EQ(files.Dir("Caf\xE9"), "Caf\xE9");
 }
 
+TEST_F(DirProbeTest, EachProbeSeesTheFolderAsItStandsThen) {
+  EXPECT_EQ(files.Dir("705"), "");
+  dir.write("705", "705\r\n");
+  EXPECT_EQ(files.Dir("705"), "705");
+  fs::remove(dir.path() / "705");
+  fs::create_directory(dir.path() / "705");
+  EXPECT_EQ(files.Dir("705"), "");
+  fs::remove(dir.path() / "705");
+  dir.write("705", "again\r\n");
+  EXPECT_EQ(files.Dir("705"), "705");
+}
+
 TEST_F(DirProbeTest, TooLongANameIsNoFile) {
   EXPECT_EQ(files.Dir(std::string(300, '7')), "");
   EXPECT_EQ(files.Dir(std::string(5000, '7')), "");
