@@ -1,30 +1,15 @@
 #include "program_driver.h"
 
-#include <cstdlib>
-#include <fstream>
 #include <stdexcept>
 
-#include "runner/working_directory.h"
 #include "shell/program.h"
 #include "tickets/ticket_game.h"
 
 namespace veridraw::bench {
 
-namespace fs = std::filesystem;
-
 TemporaryFolder::TemporaryFolder() {
-  path_ = script::makeWorkingDirectory("veridraw-bench");
-  write("DrawNumber", "720\r\n");
-  write("720", "720\r\nX0308172239401205\r\n\r\n");
-}
-
-TemporaryFolder::~TemporaryFolder() {
-  std::error_code ignored;
-  fs::remove_all(path_, ignored);
-}
-
-void TemporaryFolder::write(const std::string& name, const std::string& bytes) const {
-  std::ofstream(path_ / name, std::ios::binary) << bytes;
+  write("DrawNumber", std::to_string(kCurrentDraw) + "\r\n");
+  write(std::to_string(kCurrentDraw), "720\r\nX0308172239401205\r\n\r\n");
 }
 
 Program::Program(const TemporaryFolder& folder)

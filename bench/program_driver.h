@@ -1,5 +1,5 @@
-// The whole program in a folder of its own, with a draw on disk and every
-// message box answered OK, driven by the calls that both faces make.
+// The whole program in a folder of its own, with a draw on disk, driven by the
+// calls that both faces make.
 #pragma once
 
 #include <filesystem>
@@ -8,35 +8,20 @@
 #include <vector>
 
 #include "screen/application.h"
+#include "unit/test_support.h"
 
 namespace veridraw::bench {
 
-class TemporaryFolder {
+// A new empty folder holding the current draw, removed at the end.
+class TemporaryFolder : public testing::TemporaryDirectory {
  public:
   TemporaryFolder();
-  ~TemporaryFolder();
-  TemporaryFolder(const TemporaryFolder&) = delete;
-  TemporaryFolder& operator=(const TemporaryFolder&) = delete;
-  const std::filesystem::path& path() const { return path_; }
-  void write(const std::string& name, const std::string& bytes) const;
-
- private:
-  std::filesystem::path path_;
-};
-
-class AnswerOk : public Dialogs {
- public:
-  int MsgBox(const std::string&, int, const std::string&) override { return 1; }
-  std::string InputBox(const std::string&, const std::string&, const std::string&, int,
-                       int) override {
-    return "";
-  }
 };
 
 // The current draw of a folder, with its Lotto numbers and PowerBall.
 inline constexpr int kCurrentDraw = 720;
 
-// Draw 720 is the current draw of the folder.
+// The program's forms, in a folder, before the first form is shown.
 class Program {
  public:
   explicit Program(const TemporaryFolder& folder);
@@ -49,11 +34,12 @@ class Program {
   Application& application() { return *application_; }
 
  private:
-  AnswerOk dialogs_;
+  // No message box is expected: one would stop the benchmark.
+  testing::QueuedDialogs dialogs_;
   std::unique_ptr<Application> application_;
 };
 
-// Fourteen valid lines of six numbers in two digits each, one line a string.
+// That many valid lines of six numbers in two digits each, one line a string.
 std::vector<std::string> ticketLines(int lines);
 
 }  // namespace veridraw::bench

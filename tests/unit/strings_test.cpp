@@ -60,7 +60,7 @@ INSTANTIATE_TEST_SUITE_P(RadixPrefixes, ValReads,
 // reader; both must agree, to the bit, on every text of up to four characters
 // of this alphabet, which holds every character the reader treats apart.
 TEST(ValShortWay, AgreesWithTheWholeReaderOnEveryShortText) {
-  const std::string alphabet = std::string("0159 \t\n\r&HOhoeEdD+-.,ax$") + '\xE9' + '\0';
+  const std::string alphabet = std::string("01789 \t\n\r&HOhoeEdD+-.,ax$") + '\xE9' + '\0';
   const auto sameOutcome = [](const std::string& text) {
     double shortWay = 0;
     double wholeReader = 0;
