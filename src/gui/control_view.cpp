@@ -6,7 +6,9 @@
 #include <QSignalBlocker>
 #include <QWheelEvent>
 #include <algorithm>
+#include <utility>
 
+#include "gui/accessibility.h"
 #include "gui/appearance.h"
 #include "gui/control_painting.h"
 #include "gui/form_window.h"
@@ -24,6 +26,7 @@ constexpr int kRowsPerWheelStep = 3;
 ControlView::ControlView(FormWindow& window, const Control& control)
     : QWidget(&window), window_(window), name_(control.name()), index_(control.index()) {
   setFocusPolicy(Qt::NoFocus);
+  look_.kind = control.kind();
   if (control.kind() != ControlKind::ListBox) return;
   scrollBar_ = new QScrollBar(Qt::Vertical, this);
   scrollBar_->setFocusPolicy(Qt::NoFocus);
@@ -38,8 +41,9 @@ void ControlView::sync(const Control& control, bool focused) {
   setVisible(control.visible());
   ControlLook look = lookOf(control, focused);
   if (look != look_) {
-    look_ = std::move(look);
+    const ControlLook before = std::exchange(look_, std::move(look));
     update();
+    announceChange(*this, before);
   }
   if (scrollBar_ != nullptr) syncScrollBar();
 }

@@ -117,6 +117,10 @@ void paintNotice(QPainter& painter, const QRectF& area) {
   drawFittedText(painter, text, notice, kNoticeInk, true, kNoticePixels);
 }
 
+QString noticeWords() {
+  return QString::fromLatin1(kNotices.front());
+}
+
 void paintCoins(QPainter& painter, const QRectF& area) {
   const qreal width = area.width() * 0.42;
   const qreal height = width * 0.38;

@@ -1,5 +1,6 @@
 #include "gui/desktop.h"
 
+#include "gui/accessibility.h"
 #include "gui/desktop_dialogs.h"
 #include "gui/form_window.h"
 
@@ -18,6 +19,7 @@ void discard(FormWindow* window) {
 
 Desktop::Desktop(Application& application, DesktopDialogs& dialogs)
     : application_(application), dialogs_(dialogs) {
+  installAccessibility();
   dialogs_.setOwner([this]() -> QWidget* {
     refresh();
     return window_;

@@ -89,4 +89,11 @@ bool paintDocument(QPainter& painter, const QRectF& area, std::string_view name)
   return false;
 }
 
+QString documentWords(std::string_view name) {
+  for (const Document& document : kDocuments)
+    if (document.name == name)
+      return QString::fromLatin1(document.heading) + ": " + QString::fromLatin1(document.body);
+  return {};
+}
+
 }  // namespace veridraw::gui

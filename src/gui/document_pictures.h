@@ -4,6 +4,7 @@
 
 #include <QPainter>
 #include <QRectF>
+#include <QString>
 #include <string_view>
 
 namespace veridraw::gui {
@@ -11,5 +12,8 @@ namespace veridraw::gui {
 // Paints the document of that name ("document-lotto" and so on); returns
 // false, painting nothing, for a name that isn't a document.
 bool paintDocument(QPainter& painter, const QRectF& area, std::string_view name);
+// The heading and the text of the document of that name, as one would read
+// them out; empty for a name that isn't a document.
+QString documentWords(std::string_view name);
 
 }  // namespace veridraw::gui

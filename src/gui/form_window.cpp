@@ -4,11 +4,14 @@
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QScreen>
+#include <QTimer>
 
+#include "gui/accessibility.h"
 #include "gui/appearance.h"
 #include "gui/control_view.h"
 #include "gui/desktop.h"
 #include "gui/key_input.h"
+#include "gui/native_window_loss.h"
 #include "gui/windows1252.h"
 #include "screen/application.h"
 
@@ -45,7 +48,10 @@ FormWindow::FormWindow(Desktop& desktop, Form& form)
     }
   }
   centreOnScreen();
+  loss_ = std::make_unique<NativeWindowLoss>(*this, [this] { windowClosed(); });
 }
+
+FormWindow::~FormWindow() = default;
 
 void FormWindow::centreOnScreen() {
   QRect frame = frameGeometry();
@@ -68,6 +74,11 @@ ControlView* FormWindow::view(std::string_view name, int index) const {
   for (ControlView* view : views_)
     if (view->controlName() == name && view->controlIndex() == index) return view;
   return nullptr;
+}
+
+ControlView* FormWindow::focusedView() const {
+  const Control* focus = showsCurrentControls() ? form_.focus() : nullptr;
+  return focus != nullptr ? view(focus->name(), focus->index()) : nullptr;
 }
 
 Control* FormWindow::controlOf(const ControlView& view) const {
@@ -106,8 +117,21 @@ bool FormWindow::event(QEvent* event) {
   }
 }
 
+void FormWindow::focusInEvent(QFocusEvent* event) {
+  QWidget::focusInEvent(event);
+  // Qt announces the window itself once this returns; the model's focused
+  // control is announced after it, so that a screen reader lands there.
+  QTimer::singleShot(0, this, [this] { announceFocus(*this); });
+}
+
 void FormWindow::closeEvent(QCloseEvent* event) {
   event->ignore();
+  windowClosed();
+}
+
+void FormWindow::windowClosed() {
+  // A window already replaced by the next form's has nothing left to end.
+  if (desktop_.window() != this) return;
   desktop_.act([](Application& application) { application.closeWindow(); });
 }
 

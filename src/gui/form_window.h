@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QWidget>
+#include <memory>
 #include <string_view>
 #include <vector>
 
@@ -13,10 +14,12 @@ namespace veridraw::gui {
 
 class ControlView;
 class Desktop;
+class NativeWindowLoss;
 
 class FormWindow : public QWidget {
  public:
   FormWindow(Desktop& desktop, Form& form);
+  ~FormWindow() override;
 
   Form& form() const { return form_; }
   // Centres the window, with its frame once the frame is known.
@@ -27,6 +30,10 @@ class FormWindow : public QWidget {
   void sync();
   ControlView* view(std::string_view name, int index = kNotInArray) const;
   const std::vector<ControlView*>& views() const { return views_; }
+  // The view of the control that has the model's focus, or null.
+  ControlView* focusedView() const;
+  // The model's control of a view, while the form still has it; else null.
+  Control* controlOf(const ControlView& view) const;
 
   // What the user does with the mouse on a view.
   void clicked(const ControlView& view);
@@ -36,14 +43,18 @@ class FormWindow : public QWidget {
  protected:
   bool event(QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
 
  private:
-  Control* controlOf(const ControlView& view) const;
+  // The user closes the window, or it is destroyed from outside: either ends
+  // the program as its close button does.
+  void windowClosed();
 
   Desktop& desktop_;
   Form& form_;
   int generation_;
   std::vector<ControlView*> views_;
+  std::unique_ptr<NativeWindowLoss> loss_;
 };
 
 }  // namespace veridraw::gui

@@ -35,6 +35,10 @@ std::optional<Key> modelKey(int qtKey, Qt::KeyboardModifiers modifiers) {
       return Key::Home;
     case Qt::Key_End:
       return Key::End;
+    case Qt::Key_PageUp:
+      return Key::PageUp;
+    case Qt::Key_PageDown:
+      return Key::PageDown;
     case Qt::Key_Escape:
       return Key::Escape;
     default:

@@ -5,10 +5,13 @@
 
 #include <QPainter>
 #include <QRectF>
+#include <QString>
 #include <string_view>
 
 namespace veridraw::gui {
 
 void paintPicture(QPainter& painter, const QRectF& area, std::string_view name);
+// What the picture shows, in a few words, for a screen reader.
+QString pictureWords(std::string_view name);
 
 }  // namespace veridraw::gui

@@ -53,10 +53,8 @@ int main(int argc, char** argv) {
       report(file, {false, 0, "can't read the scenario file"});
       continue;
     }
-    // Among the PASS and FAIL lines of files, the answers of print lines are
-    // shown only with --verbose, so that the plain output stays one line a file.
-    std::ostream nowhere(nullptr);
-    report(file, veridraw::script::runScenario(in, verbose ? std::cout : nowhere, verbose));
+    // The answers of print lines come before the PASS or FAIL line of their file.
+    report(file, veridraw::script::runScenario(in, std::cout, verbose));
   }
   std::cout << passed << " passed, " << failed << " failed\n";
   return failed == 0 ? 0 : 1;

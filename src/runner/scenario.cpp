@@ -4,6 +4,7 @@
 #include <cstdlib>
 #include <fstream>
 #include <iterator>
+#include <optional>
 
 #include "runner/delivered_files.h"
 #include "runner/scenario_words.h"
@@ -72,7 +73,8 @@ Scenario::~Scenario() {
   fs::remove_all(directory_, ignored);
 }
 
-void Scenario::runLine(std::string_view line) {
+void Scenario::runLine(std::string_view line, int number) {
+  line_ = number;
   // A blank line or a comment, whose words are not read at all.
   const std::size_t first = line.find_first_not_of(" \t\r");
   if (first == std::string_view::npos || line[first] == '#') return;
@@ -279,10 +281,16 @@ void Scenario::key(const Words& words) {
 void Scenario::reply(const Words& words) {
   expectWords(words, 2, "reply N or reply \"TEXT\"");
   if (words[1].quoted) {
-    dialogs_.queue(words[1].text);
+    dialogs_.queue(words[1].text, quote(words[1].text), line_);
     return;
   }
-  dialogs_.queue(parseInteger(words[1], "reply"));
+  dialogs_.queue(parseInteger(words[1], "reply"), words[1].text, line_);
+}
+
+void Scenario::finish() const {
+  if (const QueuedReply* unused = dialogs_.oldestUnused())
+    throw ScenarioFailure("reply " + unused->written + " queued at line " +
+                          std::to_string(unused->line) + " was never taken by a dialog");
 }
 
 void Scenario::close(const Words& words) {
@@ -292,6 +300,24 @@ void Scenario::close(const Words& words) {
   afterAction();
 }
 
+namespace {
+
+// Runs one step of a scenario; what made it fail, at line `number`, if it did.
+template <class Step>
+std::optional<ScenarioResult> failureOf(Step&& step, int number) {
+  try {
+    step();
+  } catch (const ScenarioFailure& failure) {
+    return ScenarioResult{false, number, oneLine(failure.what())};
+  } catch (const std::exception& error) {
+    return ScenarioResult{false, number,
+                          oneLine(std::string("internal error of the program: ") + error.what())};
+  }
+  return std::nullopt;
+}
+
+}  // namespace
+
 ScenarioResult runScenario(std::istream& in, std::ostream& out, bool verbose) {
   Scenario scenario(out, verbose);
   std::string line;
@@ -300,15 +326,10 @@ ScenarioResult runScenario(std::istream& in, std::ostream& out, bool verbose) {
     ++number;
     // A byte order mark, as some editors put at the start of a text file.
     if (number == 1 && line.rfind("\xEF\xBB\xBF", 0) == 0) line.erase(0, 3);
-    try {
-      scenario.runLine(line);
-    } catch (const ScenarioFailure& failure) {
-      return {false, number, oneLine(failure.what())};
-    } catch (const std::exception& error) {
-      return {false, number,
-              oneLine(std::string("internal error of the program: ") + error.what())};
-    }
+    if (const auto failed = failureOf([&] { scenario.runLine(line, number); }, number))
+      return *failed;
   }
+  if (const auto failed = failureOf([&] { scenario.finish(); }, number)) return *failed;
   return {};
 }
 

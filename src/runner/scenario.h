@@ -26,9 +26,12 @@ class Scenario {
   Scenario& operator=(const Scenario&) = delete;
   ~Scenario();
 
-  // Runs one line of the scenario; a failing check or an unreadable line
+  // Runs line `number` of the scenario; a failing check or an unreadable line
   // throws ScenarioFailure.
-  void runLine(std::string_view line);
+  void runLine(std::string_view line, int number);
+  // After the last line: a reply that no dialog took fails the scenario, since
+  // the session didn't run as it was written.
+  void finish() const;
 
   const std::filesystem::path& directory() const { return directory_; }
 
@@ -79,6 +82,7 @@ class Scenario {
   ScriptedDialogs dialogs_;
   std::unique_ptr<Application> program_;
   std::map<std::string, void (Scenario::*)(const Words&)> commands_;
+  int line_ = 0;  // the number of the line being run
 };
 
 struct ScenarioResult {

@@ -24,7 +24,7 @@ bool ScriptedDialogs::takeUnchecked(DialogShown& dialog) {
 Reply ScriptedDialogs::answer(const DialogShown& dialog, bool wantsText) {
   unchecked_.push_back(dialog);
   if (replies_.empty()) throw ScenarioFailure("no reply is queued for " + describe(dialog));
-  Reply reply = replies_.front();
+  Reply reply = replies_.front().reply;
   if (std::holds_alternative<std::string>(reply) != wantsText)
     throw ScenarioFailure("the queued reply is for " +
                           std::string(wantsText ? "a message box" : "an input box") +

@@ -30,9 +30,20 @@ using Reply = std::variant<int, std::string>;  // a button number, or the text o
 
 std::string describe(const DialogShown& dialog);
 
+// A reply waiting in the queue, with how the scenario wrote it and where.
+struct QueuedReply {
+  Reply reply;
+  std::string written;  // the word of the `reply` line, as written
+  int line = 0;         // the scenario line that queued it
+};
+
 class ScriptedDialogs : public Dialogs {
  public:
-  void queue(Reply reply) { replies_.push_back(std::move(reply)); }
+  void queue(Reply reply, std::string written = {}, int line = 0) {
+    replies_.push_back({std::move(reply), std::move(written), line});
+  }
+  // The oldest reply that no dialog has taken yet, or null.
+  const QueuedReply* oldestUnused() const { return replies_.empty() ? nullptr : &replies_.front(); }
   // The oldest dialog shown and not yet checked, taken off the list; none if empty.
   bool takeUnchecked(DialogShown& dialog);
   bool allChecked() const { return unchecked_.empty(); }
@@ -48,7 +59,7 @@ class ScriptedDialogs : public Dialogs {
  private:
   Reply answer(const DialogShown& dialog, bool wantsText);
 
-  std::deque<Reply> replies_;
+  std::deque<QueuedReply> replies_;
   std::deque<DialogShown> unchecked_;
   std::function<void(const DialogShown&, const Reply&)> listener_;
 };

@@ -22,6 +22,26 @@ Form& Application::form(std::string_view name) const {
   throw std::logic_error("no form " + std::string(name));
 }
 
+namespace {
+
+// The first control after `from` in tab order (before it, when going
+// backwards), wrapping round, that `wanted` accepts; null if none does. With
+// no `from` the walk starts at the first control.
+template <class Wanted>
+Control* nextInTabOrder(const Form& form, const Control* from, bool backwards, Wanted&& wanted) {
+  std::vector<Control*> order = form.tabOrder();
+  if (backwards) std::reverse(order.begin(), order.end());
+  const auto start = std::find(order.begin(), order.end(), from);
+  const std::size_t first = start == order.end() ? 0 : std::size_t(start - order.begin()) + 1;
+  for (std::size_t step = 0; step < order.size(); ++step) {
+    Control* candidate = order[(first + step) % order.size()];
+    if (wanted(candidate)) return candidate;
+  }
+  return nullptr;
+}
+
+}  // namespace
+
 template <class Action>
 void Application::dispatch(Action&& action) {
   if (state_ != State::Running) return;
@@ -115,16 +135,10 @@ void Application::focusFirst(Form& form) {
 }
 
 void Application::moveFocus(Form& form, Control* from, bool backwards) {
-  std::vector<Control*> order = form.tabOrder();
-  if (backwards) std::reverse(order.begin(), order.end());
-  const auto start = std::find(order.begin(), order.end(), from);
-  const std::size_t first = start == order.end() ? 0 : std::size_t(start - order.begin()) + 1;
-  for (std::size_t step = 0; step < order.size(); ++step) {
-    Control* candidate = order[(first + step) % order.size()];
-    if (candidate->canTakeFocus() && candidate->tabStop()) {
-      form.setFocusPointer(candidate);
-      return;
-    }
+  const auto isTabStop = [](const Control* c) { return c->canTakeFocus() && c->tabStop(); };
+  if (Control* next = nextInTabOrder(form, from, backwards, isTabStop)) {
+    form.setFocusPointer(next);
+    return;
   }
   // No tab stop is left: the focus stays where it is, if it still can.
   form.setFocusPointer(from != nullptr && from->canTakeFocus() ? from : nullptr);
@@ -178,15 +192,25 @@ void Application::keyOnTextBox(Control& box, Key key) {
 
 void Application::keyOnList(Control& list, Key key) {
   const int last = list.listCount() - 1;
-  int wanted = list.listIndex();
+  const int current = list.listIndex();
+  // Page Up and Page Down move by a page less one row, as platform list boxes
+  // do, so that the item at one edge of the view comes to stand at the other.
+  const int page = std::max(1, list.visibleRows() - 1);
+  int wanted = current;
   switch (key) {
     case Key::Up:
     case Key::Left:
-      wanted = std::max(0, wanted - 1);
+      wanted = std::max(0, current - 1);
       break;
     case Key::Down:
     case Key::Right:
-      wanted = std::min(last, wanted + 1);
+      wanted = std::min(last, current + 1);
+      break;
+    case Key::PageUp:
+      wanted = std::max(0, current - page);
+      break;
+    case Key::PageDown:
+      wanted = std::min(last, std::max(current, 0) + page);
       break;
     case Key::Home:
       wanted = 0;
@@ -197,8 +221,27 @@ void Application::keyOnList(Control& list, Key key) {
     default:
       return;
   }
-  if (last < 0 || wanted == list.listIndex()) return;
-  list.selectItem(wanted);
+  userSelects(list, wanted);
+}
+
+void Application::typeOnList(Control& list, char c) {
+  // The next item after the selection that begins with the character, in
+  // either case, wrapping round; the selected item itself comes last.
+  const auto folded = [](char letter) { return std::toupper(static_cast<unsigned char>(letter)); };
+  const int count = list.listCount();
+  for (int step = 1; step <= count; ++step) {
+    const int index = (list.listIndex() + step) % count;
+    const std::string& item = list.items()[static_cast<std::size_t>(index)];
+    if (!item.empty() && folded(item.front()) == folded(c)) {
+      userSelects(list, index);
+      return;
+    }
+  }
+}
+
+void Application::userSelects(Control& list, int index) {
+  if (list.listCount() == 0 || index == list.listIndex()) return;
+  list.selectItem(index);
   list.form().raise(Event::Click, list);
 }
 
@@ -239,22 +282,40 @@ void Application::typeCharacter(char c) {
   if (c == ' ') return pressKey(Key::Space);
   dispatch([&] {
     Control* focused = focus();
-    if (focused != nullptr && focused->kind() == ControlKind::TextBox) focused->typeCharacter(c);
+    if (focused == nullptr) return;
+    if (focused->kind() == ControlKind::TextBox) focused->typeCharacter(c);
+    if (focused->kind() == ControlKind::ListBox) typeOnList(*focused, c);
   });
+}
+
+std::vector<Control*> Application::accessKeyOwners(Form& form, char letter) {
+  const char wanted = static_cast<char>(std::toupper(static_cast<unsigned char>(letter)));
+  std::vector<Control*> owners;
+  for (Control* control : form.tabOrder())
+    if (control->kind() == ControlKind::CommandButton && control->canTakeFocus() &&
+        control->accessKey() == wanted)
+      owners.push_back(control);
+  return owners;
 }
 
 void Application::pressAccessKey(char letter) {
   dispatch([&] {
     if (active_ == nullptr) return;
-    const char wanted = static_cast<char>(std::toupper(static_cast<unsigned char>(letter)));
-    for (Control* control : active_->tabOrder()) {
-      if (control->kind() == ControlKind::CommandButton && control->canTakeFocus() &&
-          control->accessKey() == wanted) {
-        active_->setFocusPointer(control);
-        active_->raise(Event::Click, *control);
-        return;
-      }
+    Form& form = *active_;
+    const std::vector<Control*> owners = accessKeyOwners(form, letter);
+    if (owners.empty()) return;
+    if (owners.size() == 1) {
+      form.setFocusPointer(owners.front());
+      form.raise(Event::Click, *owners.front());
+      return;
     }
+    // A letter that several buttons on screen share presses none of them: the
+    // focus moves to the first of them after the focused control in tab order,
+    // wrapping, and Enter or Space then presses it.
+    const auto isOwner = [&owners](const Control* c) {
+      return std::find(owners.begin(), owners.end(), c) != owners.end();
+    };
+    form.setFocusPointer(nextInTabOrder(form, form.focus(), false, isOwner));
   });
 }
 

@@ -68,8 +68,16 @@ class Application {
   // The user's actions. Each is one event of the program, run to its end.
   void click(Control& control);
   void selectItem(Control& list, int index);
+  // A key for the focused control: a text box edits, a button takes Enter and
+  // Space as a click, a list box moves its selection (arrows, Home, End, Page
+  // Up, Page Down); Tab walks the tab order.
   void pressKey(Key key);
+  // A typed character: a text box takes it at the caret; a list box selects
+  // the next item that begins with it.
   void typeCharacter(char c);
+  // Alt and a letter: a button that alone on the form on screen has that
+  // access key is clicked; when several have it, the focus moves on to the
+  // next of them in tab order, and nothing is clicked.
   void pressAccessKey(char letter);
   void closeWindow();
 
@@ -81,6 +89,12 @@ class Application {
   void focusFirst(Form& form);
   void keyOnTextBox(Control& box, Key key);
   void keyOnList(Control& list, Key key);
+  void typeOnList(Control& list, char c);
+  // Selects an item as the user does from the keyboard: Click runs when the
+  // selection changes.
+  void userSelects(Control& list, int index);
+  // The visible, enabled buttons whose access key is `letter`, in tab order.
+  static std::vector<Control*> accessKeyOwners(Form& form, char letter);
 
   Dialogs& dialogs_;
   SequentialFiles files_;

@@ -104,9 +104,13 @@ void Control::Clear() {
 void Control::selectItem(int index) {
   listIndex_ = std::clamp(index, -1, listCount() - 1);
   if (listIndex_ < 0) return;
-  const int rows = std::max(1, height_ / kListRowHeight);
+  const int rows = visibleRows();
   if (listIndex_ < topIndex_) topIndex_ = listIndex_;
   if (listIndex_ >= topIndex_ + rows) topIndex_ = listIndex_ - rows + 1;
+}
+
+int Control::visibleRows() const {
+  return std::max(1, height_ / kListRowHeight);
 }
 
 void Control::setTopIndex(int value) {

@@ -83,6 +83,7 @@ class Control {
   void selectItem(int index);  // the user's selection; -1 for none
   int topIndex() const { return topIndex_; }
   void setTopIndex(int value);  // only scrolls
+  int visibleRows() const;      // how many items the box shows at once, at least 1
 
   // Single-line editing by the user, at the caret; each returns whether the
   // text changed (and Change has run). A locked box refuses them all.

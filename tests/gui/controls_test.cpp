@@ -99,6 +99,33 @@ class ControlsTest : public QObject {
     QCOMPARE(view("Answer")->look().text, "Draw 4");
   }
 
+  void typingAndPagingInAListMoveItsSelection() {
+    ControlView& draws = *view("Draws");
+    const int rowHeight = QFontMetrics(draws.look().font).height();
+    QTest::mouseClick(&draws, Qt::LeftButton, {}, QPoint(10, 2 + rowHeight * 2 + rowHeight / 2));
+    QCOMPARE(view("Answer")->look().text, "Draw 3");
+
+    // Every item begins with D: a typed d goes on to the next one.
+    QTest::keyClick(program_->window(), Qt::Key_D);
+    QCOMPARE(draws.look().listIndex, 3);
+    QCOMPARE(view("Answer")->look().text, "Draw 4");
+    // The list shows six rows of the model's height: a page moves five.
+    QTest::keyClick(program_->window(), Qt::Key_PageDown);
+    QCOMPARE(draws.look().listIndex, 8);
+    QCOMPARE(draws.look().topIndex, 3);
+    QCOMPARE(view("Answer")->look().text, "Draw 9");
+    QTest::keyClick(program_->window(), Qt::Key_PageUp);
+    QCOMPARE(draws.look().listIndex, 3);
+    QCOMPARE(view("Answer")->look().text, "Draw 4");
+    QTest::keyClick(program_->window(), Qt::Key_End);
+    QCOMPARE(draws.look().listIndex, kDrawsListed - 1);
+    QCOMPARE(view("Answer")->look().text, "Draw 20");
+    QTest::keyClick(program_->window(), Qt::Key_Home);
+    QCOMPARE(draws.look().listIndex, 0);
+    QCOMPARE(draws.look().topIndex, 0);
+    QCOMPARE(view("Answer")->look().text, "Draw 1");
+  }
+
   void scrollingAListMovesItsTopIndex() {
     ControlView& draws = *view("Draws");
     QWheelEvent wheel(middleOf(draws), draws.mapToGlobal(middleOf(draws)), {}, QPoint(0, -120),

@@ -45,6 +45,8 @@ class KeyInputTest : public QObject {
     QTest::newRow("Down") << int(Qt::Key_Down) << none << "" << KeyInput(Key::Down);
     QTest::newRow("Home") << int(Qt::Key_Home) << none << "" << KeyInput(Key::Home);
     QTest::newRow("End") << int(Qt::Key_End) << none << "" << KeyInput(Key::End);
+    QTest::newRow("PageUp") << int(Qt::Key_PageUp) << none << "" << KeyInput(Key::PageUp);
+    QTest::newRow("PageDown") << int(Qt::Key_PageDown) << none << "" << KeyInput(Key::PageDown);
     QTest::newRow("Escape") << int(Qt::Key_Escape) << none << "\x1b" << KeyInput(Key::Escape);
     QTest::newRow("digit") << int(Qt::Key_7) << none << "7" << KeyInput(TypedText{"7"});
     QTest::newRow("keypad digit") << int(Qt::Key_7) << Qt::KeyboardModifiers(Qt::KeypadModifier)

@@ -116,6 +116,24 @@ class LottoScreenTest : public QObject, public ScreenChecks {
     expectTheTicketChecked();
   }
 
+  void altMWhileChoosingTheLengthReachesLineMAndEnterPressesIt() {
+    QTest::keyClick(program_->window(), Qt::Key_N, Qt::AltModifier);
+    expectFocus("BtnRestart");
+    // Main Menu and Line M both have the letter M: the focus moves, nothing is pressed.
+    QTest::keyClick(program_->window(), Qt::Key_M, Qt::AltModifier);
+    QCOMPARE(program_->window()->form().name(), "Veridraw7b");
+    expectFocus("BtnLineM");
+    expectShown("TxtNoofLines", true);
+    QTest::keyClick(program_->window(), Qt::Key_M, Qt::AltModifier);
+    expectFocus("BtnRestart");
+    QTest::keyClick(program_->window(), Qt::Key_M, Qt::AltModifier);
+    QTest::keyClick(program_->window(), Qt::Key_Return);
+    expectShown("BtnLineM", false);
+    expectCellsShown("LineA", 72, true);
+    expectShown("LineA", false, 73);
+    expectFocus("LineA", 1);
+  }
+
   void theTicketIsSavedAndItsOutcomeShown() {
     startAFourLineTicket();
     type("030812172239030817222540010308121733040812223538");

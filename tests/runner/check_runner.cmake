@@ -67,14 +67,14 @@ endfunction()
 if(CASE STREQUAL "each_file_passes")
   play(passes.scn writes_a_file.scn finds_no_file.scn)
   expect_status(0)
-  expect_output("PASS passes.scn" "PASS writes_a_file.scn" "PASS finds_no_file.scn"
-                "3 passed, 0 failed")
+  expect_output("form Veridraw7a" "PASS passes.scn" "PASS writes_a_file.scn"
+                "PASS finds_no_file.scn" "3 passed, 0 failed")
   expect_no_temporary_directory_left()
 
 elseif(CASE STREQUAL "a_failing_file")
   play(passes.scn fails.scn writes_a_file.scn)
   expect_status(1)
-  expect_output("PASS passes.scn"
+  expect_output("form Veridraw7a" "PASS passes.scn"
                 "FAIL fails.scn:4: expected form Veridraw7d, found Veridraw7a"
                 "PASS writes_a_file.scn" "2 passed, 1 failed")
   expect_no_temporary_directory_left()
@@ -82,8 +82,8 @@ elseif(CASE STREQUAL "a_failing_file")
 elseif(CASE STREQUAL "a_missing_file")
   play(no_such_scenario.scn passes.scn)
   expect_status(1)
-  expect_output("FAIL no_such_scenario.scn:0: can't read the scenario file" "PASS passes.scn"
-                "1 passed, 1 failed")
+  expect_output("FAIL no_such_scenario.scn:0: can't read the scenario file" "form Veridraw7a"
+                "PASS passes.scn" "1 passed, 1 failed")
 
 elseif(CASE STREQUAL "an_unknown_option")
   play(--quiet passes.scn)
@@ -117,10 +117,31 @@ elseif(CASE STREQUAL "verbose")
     "PASS passes.scn"
     "2 passed, 0 failed")
 
-elseif(CASE STREQUAL "quiet_without_verbose")
+elseif(CASE STREQUAL "prints_without_verbose")
   play(shows_dialogs_and_fatal_errors.scn)
   expect_status(0)
-  expect_output("PASS shows_dialogs_and_fatal_errors.scn" "1 passed, 0 failed")
+  expect_output("focus BtnEnterLottoDrawNumbers" "PASS shows_dialogs_and_fatal_errors.scn"
+                "1 passed, 0 failed")
+
+elseif(CASE STREQUAL "a_reply_left_unused")
+  play(leaves_a_reply.scn passes.scn)
+  expect_status(1)
+  expect_output(
+    "FAIL leaves_a_reply.scn:5: reply 6 queued at line 3 was never taken by a dialog"
+    "form Veridraw7a" "PASS passes.scn" "1 passed, 1 failed")
+  expect_no_temporary_directory_left()
+
+elseif(CASE STREQUAL "a_reply_left_unused_on_standard_input")
+  play(INPUT leaves_a_reply.scn)
+  expect_status(1)
+  expect_output("FAIL -:5: reply 6 queued at line 3 was never taken by a dialog"
+                "0 passed, 1 failed")
+
+elseif(CASE STREQUAL "start_after_the_end")
+  play(starts_again.scn)
+  expect_status(0)
+  expect_output("form Veridraw7a" "PASS starts_again.scn" "1 passed, 0 failed")
+  expect_no_temporary_directory_left()
 
 else()
   message(FATAL_ERROR "no case ${CASE}")

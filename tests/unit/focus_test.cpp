@@ -175,6 +175,76 @@ TEST_F(ButtonKeys, AltOnAHiddenOrDisabledButtonDoesNothing) {
   EXPECT_EQ(focusName(), "Box");
 }
 
+// BtnHidden shown with the caption "&Gone": G is then the letter of two buttons.
+class SharedAccessKey : public ButtonKeys {
+ protected:
+  int otherClicks = 0;
+  void SetUp() override {
+    ButtonKeys::SetUp();
+    first.on("BtnHidden", Event::Click, [this] { ++otherClicks; });
+    control("BtnHidden").setCaption("&Gone");
+    control("BtnHidden").setVisible(true);
+  }
+};
+
+TEST_F(SharedAccessKey, AltMovesTheFocusToTheNextOwnerInTabOrderAndClicksNothing) {
+  ASSERT_EQ(focusName(), "Box");
+  app.pressAccessKey('G');
+  EXPECT_EQ(focusName(), "BtnGo");
+  app.pressAccessKey('g');
+  EXPECT_EQ(focusName(), "BtnHidden");
+  app.pressAccessKey('G');
+  EXPECT_EQ(focusName(), "BtnGo");
+  EXPECT_EQ(clicks, 0);
+  EXPECT_EQ(otherClicks, 0);
+}
+
+TEST_F(SharedAccessKey, TheWalkStartsAfterTheFocusedControlAndWraps) {
+  control("List").SetFocus();
+  app.pressAccessKey('G');
+  EXPECT_EQ(focusName(), "BtnGo");
+  control("Other").SetFocus();
+  app.pressAccessKey('G');
+  EXPECT_EQ(focusName(), "BtnGo");
+  cell(2).SetFocus();  // no tab stop, last in tab order
+  app.pressAccessKey('G');
+  EXPECT_EQ(focusName(), "BtnGo");
+  EXPECT_EQ(clicks + otherClicks, 0);
+}
+
+TEST_F(SharedAccessKey, EnterOrSpaceThenPressesTheButtonReached) {
+  app.pressAccessKey('G');
+  app.pressAccessKey('G');
+  app.pressKey(Key::Enter);
+  EXPECT_EQ(otherClicks, 1);
+  app.pressAccessKey('G');
+  app.pressKey(Key::Space);
+  EXPECT_EQ(clicks, 1);
+  EXPECT_EQ(otherClicks, 1);
+}
+
+TEST_F(SharedAccessKey, AHiddenOrDisabledButtonDoesntShareItsLetter) {
+  control("BtnHidden").setEnabled(false);
+  app.pressAccessKey('G');
+  EXPECT_EQ(clicks, 1);
+  control("BtnHidden").setEnabled(true);
+  control("BtnGo").setVisible(false);
+  app.pressAccessKey('G');
+  EXPECT_EQ(otherClicks, 1);
+  EXPECT_EQ(focusName(), "BtnHidden");
+}
+
+TEST_F(SharedAccessKey, ALabelsLetterNeitherCountsNorActs) {
+  control("BtnHidden").setVisible(false);
+  control("Title").setCaption("&Go and &Zoom");
+  app.pressAccessKey('G');
+  EXPECT_EQ(clicks, 1);
+  control("Box").SetFocus();
+  app.pressAccessKey('Z');
+  EXPECT_EQ(focusName(), "Box");
+  EXPECT_EQ(clicks, 1);
+}
+
 TEST_F(ButtonKeys, AMouseClickOnAButtonGivesItTheFocusAndClicksIt) {
   app.click(control("BtnGo"));
   EXPECT_EQ(clicks, 1);

@@ -71,5 +71,116 @@ TEST_F(ListBox, KeysOnAnEmptyListFireNothing) {
   EXPECT_TRUE(clicked.empty());
 }
 
+// The probe's list is 975 twips high: five rows of 195 show at once.
+class LongListBox : public ListBox {
+ protected:
+  void SetUp() override {
+    ListBox::SetUp();
+    list().Clear();
+    for (int draw = 1; draw <= 12; ++draw)
+      list().AddItem(std::to_string(700 + draw));
+    list().SetFocus();
+  }
+};
+
+TEST_F(LongListBox, PageDownMovesAPageLessOneRowAndScrollsTheSelectionToTheFoot) {
+  ASSERT_EQ(list().visibleRows(), 5);
+  app.pressKey(Key::PageDown);
+  EXPECT_EQ(list().listIndex(), 4);
+  EXPECT_EQ(list().topIndex(), 0);
+  app.pressKey(Key::PageDown);
+  EXPECT_EQ(list().listIndex(), 8);
+  EXPECT_EQ(list().topIndex(), 4);
+  app.pressKey(Key::PageDown);
+  app.pressKey(Key::PageDown);
+  EXPECT_EQ(list().listIndex(), 11);
+  EXPECT_EQ(clicked, (Strings{"705", "709", "712"}));
+}
+
+TEST_F(LongListBox, PageUpMovesBackAndStopsAtTheFirstItem) {
+  app.pressKey(Key::End);
+  EXPECT_EQ(list().topIndex(), 7);
+  app.pressKey(Key::PageUp);
+  EXPECT_EQ(list().listIndex(), 7);
+  EXPECT_EQ(list().topIndex(), 7);
+  app.pressKey(Key::PageUp);
+  EXPECT_EQ(list().listIndex(), 3);
+  EXPECT_EQ(list().topIndex(), 3);
+  app.pressKey(Key::PageUp);
+  app.pressKey(Key::PageUp);
+  EXPECT_EQ(list().listIndex(), 0);
+  EXPECT_EQ(list().topIndex(), 0);
+  EXPECT_EQ(clicked, (Strings{"712", "708", "704", "701"}));
+}
+
+TEST_F(LongListBox, PageUpWithNothingSelectedSelectsTheFirstItem) {
+  app.pressKey(Key::PageUp);
+  EXPECT_EQ(clicked, (Strings{"701"}));
+}
+
+TEST_F(LongListBox, AListOneRowHighPagesOneItemAtATime) {
+  list().setHeight(300);
+  ASSERT_EQ(list().visibleRows(), 1);
+  app.pressKey(Key::PageDown);
+  app.pressKey(Key::PageDown);
+  app.pressKey(Key::PageUp);
+  EXPECT_EQ(clicked, (Strings{"702", "703", "702"}));
+}
+
+TEST_F(ListBox, ATypedCharacterSelectsTheNextItemBeginningWithItAndWraps) {
+  list().Clear();
+  for (const char* item : {"Lotto # 1", "705", "lotto # 2", "Strike # 3", "Lotto # 4"})
+    list().AddItem(item);
+  list().SetFocus();
+  for (const char c : std::string("lLlLs7"))
+    app.typeCharacter(c);
+  EXPECT_EQ(clicked,
+            (Strings{"Lotto # 1", "lotto # 2", "Lotto # 4", "Lotto # 1", "Strike # 3", "705"}));
+  EXPECT_EQ(list().topIndex(), 0);
+}
+
+TEST_F(ListBox, ATypedCharacterStartsAfterTheSelectionAndKeepsTheItemInView) {
+  list().Clear();
+  for (const char* item : {"1", "10", "100", "2", "20", "200", "1000"})
+    list().AddItem(item);
+  app.selectItem(list(), 4);
+  clicked.clear();
+  app.typeCharacter('1');
+  app.typeCharacter('2');
+  EXPECT_EQ(clicked, (Strings{"1000", "2"}));
+  EXPECT_EQ(list().listIndex(), 3);
+  EXPECT_EQ(list().topIndex(), 2);
+}
+
+TEST_F(ListBox, ACharacterThatBeginsNoOtherItemRaisesNothing) {
+  list().SetFocus();
+  app.typeCharacter('9');
+  app.typeCharacter('x');
+  EXPECT_TRUE(clicked.empty());
+  EXPECT_EQ(list().listIndex(), -1);
+  app.selectItem(list(), 0);
+  app.typeCharacter('x');
+  EXPECT_EQ(list().listIndex(), 0);
+  EXPECT_EQ(clicked, (Strings{"705"}));
+  list().Clear();
+  app.typeCharacter('7');
+  EXPECT_EQ(clicked, (Strings{"705"}));
+}
+
+TEST_F(ListBox, TheOnlyItemWithTheCharacterStaysSelectedWithoutAnotherClick) {
+  list().AddItem("8");
+  list().SetFocus();
+  app.typeCharacter('8');
+  app.typeCharacter('8');
+  EXPECT_EQ(clicked, (Strings{"8"}));
+}
+
+TEST_F(ListBox, TypingIntoAListThatHasNoFocusSelectsNothing) {
+  control("Box").SetFocus();
+  app.typeCharacter('7');
+  EXPECT_TRUE(clicked.empty());
+  EXPECT_EQ(control("Box").text(), "7 ");
+}
+
 }  // namespace
 }  // namespace veridraw

@@ -74,6 +74,24 @@ TEST_F(LottoScreen, CheckNewTicketShowsTheLineButtons) {
   EXPECT_EQ(c("BtnLineJ").top(), 3540);
 }
 
+TEST_F(LottoScreen, AltMWhileChoosingTheLengthReachesLineMAndEnterPressesIt) {
+  open();
+  click("BtnCheckNewTicket");
+  ASSERT_EQ(app->focus(), &c("BtnRestart"));
+  app->pressAccessKey('M');
+  EXPECT_EQ(app->activeForm(), &screen());
+  EXPECT_EQ(app->focus(), &c("BtnLineM"));
+  EXPECT_TRUE(c("TxtNoofLines").visible());
+  app->pressKey(Key::Enter);
+  EXPECT_FALSE(c("BtnLineM").visible());
+  EXPECT_TRUE(c("LineA", 72).visible());
+  EXPECT_FALSE(c("LineA", 73).visible());
+  EXPECT_EQ(app->focus(), &c("LineA", 1));
+  // Main Menu alone has the letter now: Alt+M clicks it.
+  app->pressAccessKey('M');
+  EXPECT_EQ(app->activeForm()->name(), "Veridraw7f");
+}
+
 TEST_F(LottoScreen, CheckSavedTicketsWithNoTicketsSaysSoAndBothListsWork) {
   writeDraw("12", "X0102030405060708");
   open();

@@ -194,6 +194,42 @@ INSTANTIATE_TEST_SUITE_P(
         FailCase{"AReplyThatIsNoWholeNumber", "reply 1.5\n", 1, {"1.5"}}),
     byName);
 
+// A reply that no dialog took fails the scenario at its last line, naming the
+// reply as written and the line that queued it.
+INSTANTIATE_TEST_SUITE_P(
+    UnusedReplies, ScenarioFails,
+    ::testing::Values(FailCase{"AButtonNoBoxAsked",
+                               "start\nreply 6\nexpect form Veridraw7a\n# nothing asks\n",
+                               4,
+                               {"reply 6 queued at line 2 was never taken by a dialog"}},
+                      FailCase{"ATextBeforeTheStart",
+                               "reply \"705\"\nstart\n",
+                               2,
+                               {"reply \"705\" queued at line 1 was never taken by a dialog"}},
+                      FailCase{"AButtonWrittenInHex",
+                               "start\nreply 0x6\n",
+                               2,
+                               {"reply 0x6 queued at line 2 was never taken by a dialog"}},
+                      FailCase{"TheSecondOfTwoWhenOneBoxAsked",
+                               kDrawScreen +
+                                   "reply \"\"\nreply 7\nclick BtnEnterLottoDrawNumbers\n" +
+                                   "expect " + kDrawNumberPrompt + "\n",
+                               7,
+                               {"reply 7 queued at line 5 was never taken by a dialog"}},
+                      FailCase{"TheOldestOfTwoLeft",
+                               "start\nreply \"1\"\nreply 1\n",
+                               3,
+                               {"reply \"1\" queued at line 2 was never taken by a dialog"}},
+                      FailCase{"AfterTheProgramEnded",
+                               "start\nreply 1\nkey Alt+X\nexpect ended\n",
+                               4,
+                               {"reply 1 queued at line 2"}},
+                      FailCase{"AnEarlierFailureComesFirst",
+                               "start\nreply 6\nexpect form Veridraw7d\nexpect running\n",
+                               3,
+                               {"Veridraw7d", "Veridraw7a"}}),
+    byName);
+
 INSTANTIATE_TEST_SUITE_P(
     DialogChecks, ScenarioFails,
     ::testing::Values(

@@ -136,6 +136,23 @@ start
 expect running
 expect form Veridraw7a
 )"},
+                      PassCase{"StartingAgainFindsTheFilesOfTheLastRun", R"(deliver
+start
+key Enter
+reply "12"
+click BtnEnterLottoDrawNumbers
+type "0102030405060708"
+key Enter
+expect file DrawNumber "12\r\n"
+key Alt+X
+expect ended
+start
+key Enter
+expect TxtDrawBox.Text "12"
+expect items List1 "12" "1105"
+expect inputbox "Enter the Draw Number" "Draw Number" "" 3280 2750
+expect nodialog
+)"},
                       PassCase{"FilesChangeWhileTheProgramRuns", R"(start
 file DrawNumber "12\r\n"
 expect file DrawNumber "12\r\n"
