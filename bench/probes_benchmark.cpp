@@ -7,6 +7,7 @@
 #include <fstream>
 #include <string>
 
+#include "runner/working_directory.h"
 #include "screen/application.h"
 #include "screen/form.h"
 #include "store/draw_store.h"
@@ -26,11 +27,10 @@ class NoDialogs : public veridraw::Dialogs {
 };
 
 fs::path folderWithDraws(int draws) {
-  std::string pattern = (fs::temp_directory_path() / "veridraw-bench-XXXXXX").string();
-  if (mkdtemp(pattern.data()) == nullptr) std::abort();
+  const fs::path folder = veridraw::script::makeWorkingDirectory("veridraw-bench");
   for (int draw = 1; draw <= draws; ++draw)
-    std::ofstream(fs::path(pattern) / std::to_string(draw)) << draw;
-  return pattern;
+    std::ofstream(folder / std::to_string(draw)) << draw;
+  return folder;
 }
 
 class ListForm : public veridraw::Form {

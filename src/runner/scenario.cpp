@@ -9,6 +9,7 @@
 #include "runner/delivered_files.h"
 #include "runner/scenario_words.h"
 #include "runner/values.h"
+#include "runner/working_directory.h"
 #include "shell/program.h"
 
 namespace veridraw::script {
@@ -16,13 +17,6 @@ namespace veridraw::script {
 namespace fs = std::filesystem;
 
 namespace {
-
-fs::path makeTemporaryDirectory() {
-  std::string pattern = (fs::temp_directory_path() / "veridraw-scenario-XXXXXX").string();
-  if (mkdtemp(pattern.data()) == nullptr)
-    throw std::runtime_error("can't make a temporary working directory");
-  return pattern;
-}
 
 const std::map<std::string, Key>& keyNames() {
   static const std::map<std::string, Key> names = {
@@ -54,7 +48,7 @@ std::string oneLine(const std::string& reason) {
 }  // namespace
 
 Scenario::Scenario(std::ostream& out, bool verbose)
-    : out_(out), verbose_(verbose), directory_(makeTemporaryDirectory()) {
+    : out_(out), verbose_(verbose), directory_(makeWorkingDirectory("veridraw-scenario")) {
   commands_ = {
       {"file", &Scenario::writeFile},  {"delete", &Scenario::deleteFile},
       {"deliver", &Scenario::deliver}, {"start", &Scenario::start},

@@ -53,9 +53,11 @@ std::string Control::displayName() const {
   return isArrayElement() ? name_ + "(" + std::to_string(index_) + ")" : name_;
 }
 
-std::string Control::text() const {
+// Read at every step of the walks of number entry: a reference, not a copy.
+const std::string& Control::text() const {
+  static const std::string kNone;
   if (kind_ == ControlKind::ListBox)
-    return listIndex_ >= 0 ? items_[static_cast<std::size_t>(listIndex_)] : "";
+    return listIndex_ >= 0 ? items_[static_cast<std::size_t>(listIndex_)] : kNone;
   if (kind_ != ControlKind::TextBox) throw std::logic_error(displayName() + " has no Text");
   return text_;
 }

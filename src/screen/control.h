@@ -29,7 +29,7 @@ class Control {
 
   // Text of a text box (assigning a different value fires Change at once,
   // nested, and puts the caret at 0), or the selected item of a list box.
-  std::string text() const;
+  const std::string& text() const;
   void setText(const std::string& value);
   const std::string& caption() const { return caption_; }
   void setCaption(const std::string& value) { assign(caption_, value); }

@@ -1,5 +1,11 @@
 #include "screen/files.h"
 
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
 #include <cerrno>
 #include <fstream>
 #include <iterator>
@@ -224,8 +230,36 @@ std::string SequentialFiles::Dir(const std::string& name) const {
   if (name.empty() || name == "." || name == ".." || name.front() == '.') return "";
   for (const char c : name)
     if (c == '/' || c == '\\' || isForbiddenInName(static_cast<unsigned char>(c))) return "";
-  std::error_code error;
-  return fs::is_regular_file(directory_ / name, error) ? name : "";
+  struct stat status;
+  const int directory = probeDirectory_.descriptor(directory_);
+  if (directory >= 0)
+    return ::fstatat(directory, name.c_str(), &status, 0) == 0 && S_ISREG(status.st_mode) ? name
+                                                                                          : "";
+  // Otherwise the full name is put together in a buffer on the stack: one stat
+  // call and no allocation.
+  const std::string& folder = directory_.native();
+  std::array<char, 4096> path;
+  if (folder.size() + 1 + name.size() + 1 > path.size()) {
+    std::error_code error;
+    return fs::is_regular_file(directory_ / name, error) ? name : "";
+  }
+  char* end = std::copy(folder.begin(), folder.end(), path.data());
+  if (!folder.empty() && folder.back() != '/') *end++ = '/';
+  end = std::copy(name.begin(), name.end(), end);
+  *end = '\0';
+  return ::stat(path.data(), &status) == 0 && S_ISREG(status.st_mode) ? name : "";
+}
+
+// A working directory given relatively is looked up anew at each probe, as the
+// process's current directory stands at that moment.
+int SequentialFiles::ProbeDirectory::descriptor(const fs::path& directory) {
+  if (descriptor_ < 0 && directory.is_absolute())
+    descriptor_ = ::open(directory.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC);
+  return descriptor_;
+}
+
+SequentialFiles::ProbeDirectory::~ProbeDirectory() {
+  if (descriptor_ >= 0) ::close(descriptor_);
 }
 
 }  // namespace veridraw

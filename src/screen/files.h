@@ -59,8 +59,24 @@ class SequentialFiles {
   std::string readField(OpenFile& file, bool numeric);
   void flush(OpenFile& file);
 
+  // The working directory held open from the first probe of Dir on, so that a
+  // probe looks up one name instead of the whole path.
+  class ProbeDirectory {
+   public:
+    ProbeDirectory() = default;
+    ProbeDirectory(const ProbeDirectory&) = delete;
+    ProbeDirectory& operator=(const ProbeDirectory&) = delete;
+    ~ProbeDirectory();
+    // The open directory, or -1 when it can't be held (or is given relatively).
+    int descriptor(const std::filesystem::path& directory);
+
+   private:
+    int descriptor_ = -1;
+  };
+
   std::filesystem::path directory_;
   std::array<std::optional<OpenFile>, kFileNumbers> files_;
+  mutable ProbeDirectory probeDirectory_;
 };
 
 }  // namespace veridraw

@@ -19,7 +19,14 @@ void Form::load() {
   focus_ = nullptr;
   for (const ControlDesign& design : design_.controls) {
     controls_.push_back(std::make_unique<Control>(*this, design));
-    byName_[design.name][design.index] = controls_.back().get();
+    NamedControls& named = byName_[design.name];
+    if (design.index == kNotInArray) {
+      named.single = controls_.back().get();
+    } else if (design.index >= 0) {
+      const auto element = static_cast<std::size_t>(design.index);
+      if (named.elements.size() <= element) named.elements.resize(element + 1, nullptr);
+      named.elements[element] = controls_.back().get();
+    }
   }
   // Explicit tab indices first, the rest after them in the order of the table.
   std::vector<std::pair<int, Control*>> order;
@@ -48,15 +55,21 @@ void Form::destroyControls(std::vector<std::unique_ptr<Control>>& graveyard) {
   loaded_ = false;
 }
 
+const Form::NamedControls* Form::named(std::string_view name) const {
+  const auto entry = byName_.find(name);
+  return entry == byName_.end() ? nullptr : &entry->second;
+}
+
 Control* Form::find(std::string_view name, int index) const {
-  const auto entry = byName_.find(std::string(name));
-  if (entry == byName_.end()) return nullptr;
-  const auto element = entry->second.find(index);
-  return element == entry->second.end() ? nullptr : element->second;
+  const NamedControls* controls = named(name);
+  if (controls == nullptr) return nullptr;
+  if (index == kNotInArray) return controls->single;
+  if (index < 0 || static_cast<std::size_t>(index) >= controls->elements.size()) return nullptr;
+  return controls->elements[static_cast<std::size_t>(index)];
 }
 
 bool Form::hasControlNamed(std::string_view name) const {
-  return byName_.count(std::string(name)) > 0;
+  return named(name) != nullptr;
 }
 
 Control& Form::control(std::string_view name) {

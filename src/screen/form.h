@@ -3,6 +3,7 @@
 // from the design table at each Load and destroyed at Unload.
 #pragma once
 
+#include <cstddef>
 #include <functional>
 #include <map>
 #include <memory>
@@ -47,12 +48,22 @@ class Form {
   // Counts the loads, so that a face can tell a fresh set of controls.
   int generation() const { return generation_; }
 
+  // The controls of one name: the control itself, or the elements of a control
+  // array in a vector indexed by element (null where the array has a gap).
+  struct NamedControls {
+    Control* single = nullptr;
+    std::vector<Control*> elements;
+  };
+
   // A control by name; an element of a control array by name and index.
   // A missing element is fatal error 340.
   Control& control(std::string_view name);
   Control& control(std::string_view name, int index);
   Control* find(std::string_view name, int index = kNotInArray) const;
   bool hasControlNamed(std::string_view name) const;
+  // The controls of that name in this Load, or null. Valid until the next Load
+  // or Unload, which generation() and loaded() tell.
+  const NamedControls* named(std::string_view name) const;
   const std::vector<std::unique_ptr<Control>>& controls() const { return controls_; }
   // The controls in the order of their TabIndex.
   std::vector<Control*> tabOrder() const;
@@ -89,34 +100,66 @@ class Form {
   bool loaded_ = false;
   int generation_ = 0;
   std::vector<std::unique_ptr<Control>> controls_;
-  std::unordered_map<std::string, std::map<int, Control*>> byName_;
+  // Looked up by a string_view without making a string.
+  struct NameHash {
+    using is_transparent = void;
+    std::size_t operator()(std::string_view name) const {
+      return std::hash<std::string_view>{}(name);
+    }
+  };
+  std::unordered_map<std::string, NamedControls, NameHash, std::equal_to<>> byName_;
   std::map<std::pair<std::string, Event>, Handler> handlers_;
   Control* focus_ = nullptr;
 };
 
-// A control of a form by name, resolved at each use, since the controls are
-// made anew at each Load: `BtnYes->setVisible(false)`.
+// A control of a form by name: `BtnYes->setVisible(false)`. The controls are
+// made anew at each Load, so the name is resolved at the first use after a
+// Load and kept until the form loads or unloads again.
 class ControlRef {
  public:
   ControlRef(Form& form, std::string name) : form_(form), name_(std::move(name)) {}
-  Control* operator->() const { return &form_.control(name_); }
-  Control& operator*() const { return form_.control(name_); }
+  Control* operator->() const { return &get(); }
+  Control& operator*() const { return get(); }
 
  private:
+  Control& get() const {
+    if (!form_.loaded() || generation_ != form_.generation()) {
+      control_ = &form_.control(name_);
+      generation_ = form_.generation();
+    }
+    return *control_;
+  }
+
   Form& form_;
   std::string name_;
+  mutable Control* control_ = nullptr;
+  mutable int generation_ = 0;  // no Load has generation 0
 };
 
-// A control array of a form: `TxtDrawnNumbers(CellIndex).setText(" ")`.
+// A control array of a form: `TxtDrawnNumbers(CellIndex).setText(" ")`. The
+// array is resolved once a Load, like a ControlRef; a missing element stays
+// fatal error 340.
 class ControlArray {
  public:
   ControlArray(Form& form, std::string name) : form_(form), name_(std::move(name)) {}
-  Control& operator()(int index) const { return form_.control(name_, index); }
+  Control& operator()(int index) const {
+    if (!form_.loaded() || generation_ != form_.generation()) {
+      array_ = form_.named(name_);
+      generation_ = form_.generation();
+    }
+    if (array_ != nullptr && index >= 0 &&
+        static_cast<std::size_t>(index) < array_->elements.size()) {
+      if (Control* element = array_->elements[static_cast<std::size_t>(index)]) return *element;
+    }
+    return form_.control(name_, index);
+  }
   const std::string& name() const { return name_; }
 
  private:
   Form& form_;
   std::string name_;
+  mutable const Form::NamedControls* array_ = nullptr;
+  mutable int generation_ = 0;
 };
 
 }  // namespace veridraw

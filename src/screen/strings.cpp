@@ -137,12 +137,30 @@ std::string_view trimBlanks(std::string_view text) {
 
 }  // namespace
 
-double Val(std::string_view text) {
+double ReadVal(std::string_view text) {
   NumberReader reader(text, true);
   double result = 0;
   if (reader.readRadix(result)) return result;
   NumberReader decimal(text, true);
   return decimal.readDecimal(result) ? result : 0.0;
+}
+
+double Val(std::string_view text) {
+  // What number cells hold, blanks and a few digits, is read here without the
+  // reader; anything else, a sign, a point, a letter or more digits than a
+  // double holds exactly, goes to the reader.
+  constexpr int kPlainDigits = 15;
+  std::int64_t value = 0;
+  int digits = 0;
+  for (const char c : text) {
+    if (isDigit(c)) {
+      if (++digits > kPlainDigits) return ReadVal(text);
+      value = value * 10 + (c - '0');
+    } else if (!isBlank(c)) {
+      return ReadVal(text);
+    }
+  }
+  return static_cast<double>(value);
 }
 
 double StrictNumber(std::string_view text) {

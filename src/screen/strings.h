@@ -14,6 +14,8 @@ namespace veridraw {
 // point and an exponent (E or D), or the &H and &O prefixes. Text with no
 // number in front gives 0.
 double Val(std::string_view text);
+// The same, always by the whole reader; Val takes a shorter way for plain digits.
+double ReadVal(std::string_view text);
 
 // Strict conversion: the text must be wholly a number, with blanks allowed only
 // around it, or the program stops with fatal error 13.

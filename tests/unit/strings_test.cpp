@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cstring>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -53,6 +55,50 @@ INSTANTIATE_TEST_SUITE_P(RadixPrefixes, ValReads,
                                            ValCase{"&O17", 15}, ValCase{"&o17", 15},
                                            ValCase{"&O177777", -1}, ValCase{"&H1G", 1},
                                            ValCase{"&O78", 7}, ValCase{" &H 1 0", 16}));
+
+// Val reads the plain texts of number cells by a shorter way than the whole
+// reader; both must agree, to the bit, on every text of up to four characters
+// of this alphabet, which holds every character the reader treats apart.
+TEST(ValShortWay, AgreesWithTheWholeReaderOnEveryShortText) {
+  const std::string alphabet = std::string("01789 \t\n\r&HOhoeEdD+-.,ax$") + '\xE9' + '\0';
+  const auto sameOutcome = [](const std::string& text) {
+    double shortWay = 0;
+    double wholeReader = 0;
+    int shortFatal = 0;
+    int readerFatal = 0;
+    shortFatal = fatalNumberOf([&] { shortWay = Val(text); });
+    readerFatal = fatalNumberOf([&] { wholeReader = ReadVal(text); });
+    return shortFatal == readerFatal && std::memcmp(&shortWay, &wholeReader, sizeof(double)) == 0;
+  };
+  std::string text;
+  long compared = 0;
+  const std::function<void(std::size_t)> every = [&](std::size_t length) {
+    if (text.size() == length) {
+      ++compared;
+      if (!sameOutcome(text))
+        ADD_FAILURE() << "Val(\"" << text << "\") " << Val(text) << " vs " << ReadVal(text);
+      return;
+    }
+    for (const char c : alphabet) {
+      text.push_back(c);
+      every(length);
+      text.pop_back();
+    }
+  };
+  for (std::size_t length = 0; length <= 4; ++length)
+    every(length);
+  const long n = static_cast<long>(alphabet.size());
+  EXPECT_EQ(compared, 1 + n + n * n + n * n * n + n * n * n * n);
+}
+
+TEST(ValShortWay, ReadsCellsAndLongDigitRunsAsTheReaderDoes) {
+  for (const std::string text :
+       {"12 ", "1 ", " ", "  ", "40 ", "41 ", "00 ", "123456789012345", "1234567890123456",
+        "99999999999999999999", " 1 2 3 4 5 6 7 8 9 0 1 2 3 4 5 6 ", "007", "\n\t7"})
+    EXPECT_EQ(Val(text), ReadVal(text)) << text;
+  EXPECT_EQ(Val("12 "), 12.0);
+  EXPECT_EQ(Val("1234567890123456"), 1234567890123456.0);
+}
 
 struct StrictCase {
   std::string text;

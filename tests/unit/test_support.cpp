@@ -5,12 +5,12 @@
 #include <iterator>
 #include <stdexcept>
 
+#include "runner/working_directory.h"
+
 namespace veridraw::testing {
 
 TemporaryDirectory::TemporaryDirectory() {
-  std::string pattern = (std::filesystem::temp_directory_path() / "veridraw-test-XXXXXX").string();
-  if (mkdtemp(pattern.data()) == nullptr) throw std::runtime_error("mkdtemp failed");
-  path_ = pattern;
+  path_ = script::makeWorkingDirectory("veridraw-test");
 }
 
 TemporaryDirectory::~TemporaryDirectory() {
