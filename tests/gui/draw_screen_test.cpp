@@ -17,9 +17,7 @@ class DrawScreenTest : public QObject, public ScreenChecks {
 
  private slots:
   void init() {
-    program_ = std::make_unique<ProgramOnDesktop>();
-    program_->deliver();
-    program_->start(kFirstForm);
+    program_ = startAsDelivered();
     QTest::keyClick(program_->window(), Qt::Key_Return);
     QVERIFY(program_->window() != nullptr);
     QCOMPARE(program_->window()->form().name(), "Veridraw7f");

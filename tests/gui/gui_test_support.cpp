@@ -49,6 +49,13 @@ ControlView* ProgramOnDesktop::view(std::string_view name, int index) const {
   return window() != nullptr ? window()->view(name, index) : nullptr;
 }
 
+std::unique_ptr<ProgramOnDesktop> startAsDelivered() {
+  auto program = std::make_unique<ProgramOnDesktop>();
+  program->deliver();
+  program->start(kFirstForm);
+  return program;
+}
+
 void makeDraw705Current(ProgramOnDesktop& program) {
   program.writeFile("DrawNumber", "705\r\n");
   program.writeFile("705", "705\r\nX0308172239401202\r\nZ17033908\r\n");

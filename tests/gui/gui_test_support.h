@@ -9,6 +9,7 @@
 #include <QTimer>
 #include <QWidget>
 #include <functional>
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -46,6 +47,9 @@ class ProgramOnDesktop {
   Application application_;
   Desktop desktop_;
 };
+
+// The program as it is delivered, started at its first screen.
+std::unique_ptr<ProgramOnDesktop> startAsDelivered();
 
 // Makes draw 705 the current draw: Lotto 3 8 17 22 39 40, bonus 12,
 // PowerBall 2; Strike 17 3 39 8.

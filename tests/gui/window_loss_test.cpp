@@ -31,9 +31,7 @@ class WindowLossTest : public QObject {
 
  private slots:
   void init() {
-    program_ = std::make_unique<ProgramOnDesktop>();
-    program_->deliver();
-    program_->start(kFirstForm);
+    program_ = startAsDelivered();
     QVERIFY(program_->window() != nullptr);
   }
   void cleanup() { program_.reset(); }
