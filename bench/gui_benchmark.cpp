@@ -22,11 +22,13 @@
 #include "gui/desktop.h"
 #include "gui/desktop_dialogs.h"
 #include "gui/form_window.h"
+#include "measure.h"
 #include "shell/program.h"
 
 namespace {
 
 namespace fs = std::filesystem;
+using veridraw::bench::median;
 using Clock = std::chrono::steady_clock;
 
 constexpr int kLines = 14;
@@ -36,12 +38,6 @@ constexpr const char* kLine = "010203040506";
 
 double micros(Clock::duration duration) {
   return std::chrono::duration<double, std::micro>(duration).count();
-}
-
-double median(std::vector<double> samples) {
-  if (samples.empty()) return 0;
-  std::nth_element(samples.begin(), samples.begin() + samples.size() / 2, samples.end());
-  return samples[samples.size() / 2];
 }
 
 // Runs `key` and then the events it left, painting included; gives the time taken.
@@ -164,7 +160,7 @@ void report(benchmark::State& state, const std::vector<double>& keys,
   const double floorMedian = median(floor);
   state.counters["median_us"] = keyMedian;
   state.counters["floor_us"] = floorMedian;
-  state.counters["x_floor"] = floorMedian > 0 ? keyMedian / floorMedian : 0;
+  state.counters["ratio"] = floorMedian > 0 ? keyMedian / floorMedian : 0;
 }
 
 void BM_GuiFloorDigitIntoLineEdit(benchmark::State& state) {
