@@ -18,12 +18,12 @@
 #include <string>
 #include <vector>
 
-#include "gui/classic_style.h"
-#include "gui/desktop.h"
-#include "gui/desktop_dialogs.h"
-#include "gui/form_window.h"
+#include "gui/dialogs/desktop_dialogs.h"
+#include "gui/look/classic_style.h"
+#include "gui/window/desktop.h"
+#include "gui/window/form_window.h"
 #include "measure.h"
-#include "shell/program.h"
+#include "program/program.h"
 
 namespace {
 

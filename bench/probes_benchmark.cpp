@@ -7,7 +7,7 @@
 #include <fstream>
 #include <string>
 
-#include "runner/working_directory.h"
+#include "screen/working_directory.h"
 #include "screen/application.h"
 #include "screen/form.h"
 #include "store/draw_store.h"
@@ -27,7 +27,7 @@ class NoDialogs : public veridraw::Dialogs {
 };
 
 fs::path folderWithDraws(int draws) {
-  const fs::path folder = veridraw::script::makeWorkingDirectory("veridraw-bench");
+  const fs::path folder = veridraw::makeWorkingDirectory("veridraw-bench");
   for (int draw = 1; draw <= draws; ++draw)
     std::ofstream(folder / std::to_string(draw)) << draw;
   return folder;

@@ -2,7 +2,7 @@
 
 #include <stdexcept>
 
-#include "shell/program.h"
+#include "program/program.h"
 #include "tickets/ticket_game.h"
 
 namespace veridraw::bench {

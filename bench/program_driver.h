@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "screen/application.h"
-#include "unit/test_support.h"
+#include "support/test_support.h"
 
 namespace veridraw::bench {
 

@@ -5,11 +5,11 @@
 #include <QIcon>
 #include <filesystem>
 
-#include "gui/classic_style.h"
-#include "gui/desktop.h"
-#include "gui/desktop_dialogs.h"
-#include "gui/display_check.h"
-#include "shell/program.h"
+#include "gui/dialogs/desktop_dialogs.h"
+#include "gui/look/classic_style.h"
+#include "gui/platform/display_check.h"
+#include "gui/window/desktop.h"
+#include "program/program.h"
 
 int main(int argc, char** argv) {
   veridraw::gui::exitIfNoDisplayInSight();

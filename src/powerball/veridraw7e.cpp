@@ -3,6 +3,7 @@
 // PowerBall pairs back into it, and a save appends them to the fourth record.
 #include "powerball/veridraw7e.h"
 
+#include "powerball/powerball_game.h"
 #include "screen/strings.h"
 #include "store/draw_store.h"
 

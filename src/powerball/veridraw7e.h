@@ -19,7 +19,6 @@
 namespace veridraw {
 
 FormDesign veridraw7eDesign();
-const tickets::TicketGame& powerBallGame();
 
 class Veridraw7e : public tickets::TicketScreen {
  public:

@@ -1,12 +1,11 @@
 // The design of the PowerBall screen, as its designer laid it out: the Lotto
 // screen's controls, most of them moved a little, with the PowerBall column of
 // the ticket and of the prize grid, the box of the one number, the question and
-// the PowerBall prize rows added. And the numbers of the PowerBall game that
-// the shared ticket procedures read.
+// the PowerBall prize rows added.
+#include "powerball/powerball_game.h"
 #include "powerball/veridraw7e.h"
 #include "store/draw_store.h"
 #include "tickets/ticket_design.h"
-#include "tickets/veridraw7b.h"
 
 namespace veridraw {
 
@@ -16,21 +15,6 @@ constexpr int kPrizeRowStep = 300;
 constexpr int kSpareTop = 8205;
 
 }  // namespace
-
-// A Lotto ticket in its files of its own, listed from the first PowerBall
-// draw. The cover box of the longest ticket stands lower than on the Lotto
-// screen, and a change of a cell leaves CmdShowResults alone.
-const tickets::TicketGame& powerBallGame() {
-  static const tickets::TicketGame game = [] {
-    tickets::TicketGame powerBall = lottoGame();
-    powerBall.lineButtons.back().coverTop = 7560;
-    powerBall.ticketPrefix = store::kPowerBallPrefix;
-    powerBall.firstListedDraw = store::kFirstPowerBallDraw;
-    powerBall.changeHidesShowResults = false;
-    return powerBall;
-  }();
-  return game;
-}
 
 namespace {
 

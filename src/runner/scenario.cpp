@@ -9,8 +9,8 @@
 #include "runner/delivered_files.h"
 #include "runner/scenario_words.h"
 #include "runner/values.h"
-#include "runner/working_directory.h"
-#include "shell/program.h"
+#include "screen/working_directory.h"
+#include "program/program.h"
 
 namespace veridraw::script {
 

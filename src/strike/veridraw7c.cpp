@@ -3,6 +3,7 @@
 #include "strike/veridraw7c.h"
 
 #include "screen/strings.h"
+#include "strike/strike_game.h"
 
 namespace veridraw {
 

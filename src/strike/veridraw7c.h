@@ -14,7 +14,6 @@
 namespace veridraw {
 
 FormDesign veridraw7cDesign();
-const tickets::TicketGame& strikeGame();
 
 class Veridraw7c : public tickets::TicketScreen {
  public:

@@ -8,10 +8,10 @@
 #include <vector>
 
 #include "accessible_tree.h"
-#include "gui/accessibility.h"
+#include "gui/accessibility/accessibility.h"
 #include "gui_test_support.h"
+#include "program/program.h"
 #include "screen_checks.h"
-#include "shell/program.h"
 
 using namespace veridraw;
 using namespace veridraw::gui;

@@ -7,7 +7,7 @@
 #include <QScrollBar>
 #include <QTest>
 
-#include "gui/control_view.h"
+#include "gui/window/control_view.h"
 #include "gui_test_support.h"
 #include "test_forms.h"
 

@@ -6,7 +6,7 @@
 #include <QMessageBox>
 #include <QTest>
 
-#include "gui/desktop_dialogs.h"
+#include "gui/dialogs/desktop_dialogs.h"
 #include "gui_test_support.h"
 
 using namespace veridraw;

@@ -5,8 +5,8 @@
 #include <QTest>
 
 #include "gui_test_support.h"
+#include "program/program.h"
 #include "screen_checks.h"
-#include "shell/program.h"
 
 using namespace veridraw;
 using namespace veridraw::gui;

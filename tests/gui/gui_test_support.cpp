@@ -9,8 +9,8 @@
 #include <fstream>
 #include <iterator>
 
+#include "program/program.h"
 #include "runner/delivered_files.h"
-#include "shell/program.h"
 
 namespace veridraw::gui::testing {
 

@@ -13,10 +13,10 @@
 #include <string>
 #include <string_view>
 
-#include "gui/control_view.h"
-#include "gui/desktop.h"
-#include "gui/desktop_dialogs.h"
-#include "gui/form_window.h"
+#include "gui/dialogs/desktop_dialogs.h"
+#include "gui/window/control_view.h"
+#include "gui/window/desktop.h"
+#include "gui/window/form_window.h"
 #include "screen/application.h"
 
 namespace veridraw::gui::testing {

@@ -2,8 +2,8 @@
 // model as the desktop shows and takes them.
 #include <QTest>
 
-#include "gui/key_input.h"
-#include "gui/windows1252.h"
+#include "gui/window/key_input.h"
+#include "gui/window/windows1252.h"
 
 using namespace veridraw;
 using namespace veridraw::gui;

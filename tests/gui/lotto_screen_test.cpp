@@ -14,8 +14,8 @@
 #include <set>
 
 #include "gui_test_support.h"
+#include "program/program.h"
 #include "screen_checks.h"
-#include "shell/program.h"
 
 using namespace veridraw;
 using namespace veridraw::gui;

@@ -7,9 +7,9 @@
 #include <QTest>
 #include <cmath>
 
-#include "gui/appearance.h"
-#include "gui/control_painting.h"
-#include "gui/pictures.h"
+#include "gui/look/appearance.h"
+#include "gui/look/control_painting.h"
+#include "gui/pictures/pictures.h"
 
 using namespace veridraw;
 using namespace veridraw::gui;

@@ -8,9 +8,9 @@
 #include <QScreen>
 #include <QTest>
 
-#include "gui/window_placement.h"
+#include "gui/dialogs/window_placement.h"
 #include "gui_test_support.h"
-#include "shell/program.h"
+#include "program/program.h"
 #include "test_forms.h"
 
 using namespace veridraw;

@@ -7,7 +7,7 @@
 #include <cstdint>
 #include <cstdlib>
 
-#include "gui/control_painting.h"
+#include "gui/look/control_painting.h"
 
 namespace veridraw::gui::testing {
 

@@ -6,9 +6,9 @@
 #include <QSet>
 #include <QTest>
 
-#include "gui/classic_style.h"
+#include "gui/look/classic_style.h"
 #include "gui_test_support.h"
-#include "shell/program.h"
+#include "program/program.h"
 #include "test_forms.h"
 
 using namespace veridraw;

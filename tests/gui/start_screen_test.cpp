@@ -5,9 +5,9 @@
 #include <QScreen>
 #include <QTest>
 
-#include "gui/appearance.h"
+#include "gui/look/appearance.h"
 #include "gui_test_support.h"
-#include "shell/program.h"
+#include "program/program.h"
 
 using namespace veridraw;
 using namespace veridraw::gui;

@@ -13,9 +13,9 @@
 #include <sstream>
 #include <vector>
 
-#include "gui/appearance.h"
-#include "gui/control_look.h"
-#include "gui/control_painting.h"
+#include "gui/look/appearance.h"
+#include "gui/look/control_look.h"
+#include "gui/look/control_painting.h"
 #include "runner/scenario.h"
 
 using namespace veridraw;

@@ -5,7 +5,7 @@
 #include <QTest>
 
 #include "gui_test_support.h"
-#include "shell/program.h"
+#include "program/program.h"
 
 using namespace veridraw;
 using namespace veridraw::gui;

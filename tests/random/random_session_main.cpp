@@ -7,7 +7,7 @@
 #include <string>
 
 #include "random/session.h"
-#include "unit/test_support.h"
+#include "support/test_support.h"
 
 int main(int argc, char** argv) {
   veridraw::random_sessions::SessionOptions options;

@@ -10,8 +10,8 @@
 #include <vector>
 
 #include "random/session.h"
-#include "unit/play_scenario.h"
-#include "unit/test_support.h"
+#include "support/play_scenario.h"
+#include "support/test_support.h"
 
 namespace veridraw::random_sessions {
 namespace {

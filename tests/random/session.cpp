@@ -17,7 +17,7 @@
 #include "runner/tokens.h"
 #include "screen/application.h"
 #include "screen/strings.h"
-#include "shell/program.h"
+#include "program/program.h"
 #include "store/draw_store.h"
 #include "store/ticket_store.h"
 

@@ -1,0 +1,337 @@
+#include "gui/look/control_painting.h"
+
+#include <QTextLayout>
+#include <algorithm>
+
+#include "gui/look/appearance.h"
+#include "gui/pictures/pictures.h"
+
+namespace veridraw::gui {
+
+namespace {
+
+constexpr int kBevel = 2;
+// The room between the border of a text box and its text, on either side.
+constexpr int kTextMargin = 1;
+// The room left of the text of a list's row.
+constexpr int kRowMargin = 2;
+constexpr int kFocusInset = 4;
+constexpr int kLeastShrink = 2;
+constexpr int kShrinkShare = 8;
+
+// A frame one pixel wide, its top and left edges in one colour and its bottom
+// and right edges, corners included, in the other. Filled, not stroked: the
+// frames of a window full of cells are painted at every key.
+void drawFrame(QPainter& painter, const QRect& area, const QColor& topLeft,
+               const QColor& bottomRight) {
+  painter.fillRect(area.left(), area.top(), area.width(), 1, topLeft);
+  painter.fillRect(area.left(), area.top(), 1, area.height(), topLeft);
+  painter.fillRect(area.left(), area.bottom(), area.width(), 1, bottomRight);
+  painter.fillRect(area.right(), area.top(), 1, area.height(), bottomRight);
+}
+
+void drawRaised(QPainter& painter, const QRect& area) {
+  drawFrame(painter, area, edges::kHighlight, edges::kDarkShadow);
+  drawFrame(painter, area.adjusted(1, 1, -1, -1), edges::kLight, edges::kShadow);
+}
+
+void drawSunken(QPainter& painter, const QRect& area) {
+  drawFrame(painter, area, edges::kShadow, edges::kHighlight);
+  drawFrame(painter, area.adjusted(1, 1, -1, -1), edges::kDarkShadow, edges::kLight);
+}
+
+void drawPressed(QPainter& painter, const QRect& area) {
+  drawFrame(painter, area, edges::kDarkShadow, edges::kDarkShadow);
+  drawFrame(painter, area.adjusted(1, 1, -1, -1), edges::kShadow, edges::kShadow);
+}
+
+// The width of the border that the model's BorderStyle gives a text or list box.
+int fieldBorder(const ControlLook& look) {
+  return look.borderStyle != 0 ? kBevel : 0;
+}
+
+// The dotted rectangle of the keyboard focus.
+void drawFocusRect(QPainter& painter, const QRect& area,
+                   const QColor& colour = edges::kDarkShadow) {
+  QPen pen(colour);
+  pen.setDashPattern({1, 1});
+  painter.setPen(pen);
+  painter.setBrush(Qt::NoBrush);
+  painter.drawRect(area.adjusted(0, 0, -1, -1));
+}
+
+Qt::Alignment horizontal(Alignment alignment) {
+  switch (alignment) {
+    case Alignment::Right:
+      return Qt::AlignRight;
+    case Alignment::Center:
+      return Qt::AlignHCenter;
+    case Alignment::Left:
+      break;
+  }
+  return Qt::AlignLeft;
+}
+
+// Whether the caption fits the box in the font. The descenders of the last
+// line may be cut, as the classic forms cut them.
+bool captionFits(const QRect& box, int flags, const QFont& font, const QString& text) {
+  const QFontMetrics metrics(font);
+  const QRect needed = metrics.boundingRect(box, flags, text);
+  return needed.width() <= box.width() && needed.height() - metrics.descent() <= box.height();
+}
+
+int captionFlags(const ControlLook& look) {
+  const int placed = look.kind == ControlKind::CommandButton
+                         ? int(Qt::AlignCenter)
+                         : int(horizontal(look.alignment) | Qt::AlignTop);
+  return placed | Qt::TextShowMnemonic | Qt::TextWordWrap;
+}
+
+// The designed font, or a pixel or two smaller where the caption would not fit
+// its control in it. A bitmap face has no sizes in between: a scalable face of
+// its look stands in for it there.
+QFont fittedCaptionFont(const QRect& box, int flags, const ControlLook& look) {
+  if (captionFits(box, flags, look.font, look.text)) return look.font;
+  const int designed = look.font.pixelSize();
+  const int smallest = designed - std::max(kLeastShrink, designed / kShrinkShare);
+  for (int pixels = designed - 1; pixels > smallest; --pixels) {
+    const QFont font = scalableFont(pixels, look.font.bold());
+    if (captionFits(box, flags, font, look.text)) return font;
+  }
+  return scalableFont(smallest, look.font.bold());
+}
+
+// The text laid out in lines of `width`.
+std::unique_ptr<QTextLayout> laidOut(const QString& text, const QFont& font, int width,
+                                     const QTextOption& option) {
+  auto layout = std::make_unique<QTextLayout>(text, font);
+  layout->setTextOption(option);
+  qreal height = 0;
+  layout->beginLayout();
+  for (QTextLine line = layout->createLine(); line.isValid(); line = layout->createLine()) {
+    line.setLineWidth(width);
+    line.setPosition({0, height});
+    height += line.height();
+  }
+  layout->endLayout();
+  return layout;
+}
+
+// A caption: the "&" underlines the access key; a disabled one is etched.
+void drawCaption(QPainter& painter, const QRect& area, const ControlLook& look, PaintCache* cache) {
+  const int flags = captionFlags(look);
+  const auto fit = [&] { return fittedCaptionFont(area, flags, look); };
+  painter.setFont(
+      cache != nullptr ? cache->captionFont(look.text, look.font, area.size(), flags, fit) : fit());
+  if (!look.enabled) {
+    painter.setPen(edges::kHighlight);
+    painter.drawText(area.translated(1, 1), flags, look.text);
+    painter.setPen(edges::kShadow);
+  } else {
+    painter.setPen(look.foreground);
+  }
+  painter.drawText(area, flags, look.text);
+}
+
+void paintButton(QPainter& painter, const QRect& area, const ControlLook& look, bool pressed,
+                 PaintCache* cache) {
+  painter.fillRect(area, look.background);
+  QRect face = area;
+  if (look.focused) {
+    // The button that Enter presses wears a black frame.
+    drawFrame(painter, face, edges::kDarkShadow, edges::kDarkShadow);
+    face.adjust(1, 1, -1, -1);
+  }
+  if (pressed) {
+    drawPressed(painter, face);
+  } else {
+    drawRaised(painter, face);
+  }
+  QRect content = textArea(area, look);
+  if (pressed) content.translate(1, 1);
+  if (!look.picture.empty()) paintPicture(painter, content.adjusted(1, 1, -1, -1), look.picture);
+  if (!look.text.isEmpty()) drawCaption(painter, content, look, cache);
+  if (look.focused) {
+    const int inset = kFocusInset - kBevel;
+    drawFocusRect(painter, content.adjusted(inset, inset, -inset, -inset));
+  }
+}
+
+void paintLabel(QPainter& painter, const QRect& area, const ControlLook& look, PaintCache* cache) {
+  painter.fillRect(area, look.background);
+  if (look.borderStyle != 0) drawSunken(painter, area);
+  drawCaption(painter, textArea(area, look), look, cache);
+}
+
+// The text of a text box, laid out on one line or, in a box tall enough for
+// more, wrapped; with the selection and, when it has the focus, the caret.
+void paintText(QPainter& painter, const QRect& inner, const ControlLook& look, PaintCache* cache) {
+  const QFontMetrics metrics(look.font);
+  const bool wraps = inner.height() >= 2 * metrics.height();
+  QTextOption option(horizontal(look.alignment));
+  option.setWrapMode(wraps ? QTextOption::WrapAtWordBoundaryOrAnywhere : QTextOption::NoWrap);
+  const int width = inner.width() - 2 * kTextMargin;
+  std::unique_ptr<QTextLayout> own;
+  if (cache == nullptr) own = laidOut(look.text, look.font, width, option);
+  const QTextLayout& layout =
+      cache != nullptr ? cache->layout(look.text, look.font, width, option) : *own;
+
+  QPointF origin(inner.left() + kTextMargin, inner.top() + 1);
+  if (!wraps) origin.setY(inner.top() + std::max(0, (inner.height() - metrics.height()) / 2));
+  const QTextLine caretLine = layout.lineForTextPosition(look.caret);
+  if (!wraps && look.focused && caretLine.isValid()) {
+    // Keep the caret in view, as a single-line box scrolls its text.
+    const qreal caretX = caretLine.cursorToX(look.caret);
+    if (caretX > width) origin.rx() -= caretX - width;
+  }
+
+  QList<QTextLayout::FormatRange> selections;
+  if (look.selectionLength > 0) {
+    QTextLayout::FormatRange selection;
+    selection.start = look.caret;
+    selection.length = look.selectionLength;
+    selection.format.setBackground(edges::kSelection);
+    selection.format.setForeground(edges::kHighlight);
+    selections.append(selection);
+  }
+  painter.save();
+  painter.setClipRect(inner);
+  painter.setPen(look.foreground);
+  layout.draw(&painter, origin, selections);
+  if (look.focused) layout.drawCursor(&painter, origin, look.caret);
+  painter.restore();
+}
+
+void paintTextBox(QPainter& painter, const QRect& area, const ControlLook& look,
+                  PaintCache* cache) {
+  painter.fillRect(area, look.background);
+  if (look.borderStyle != 0) drawSunken(painter, area);
+  const int border = fieldBorder(look);
+  paintText(painter, area.adjusted(border, border, -border, -border), look, cache);
+}
+
+void paintListBox(QPainter& painter, const QRect& area, const ControlLook& look) {
+  painter.fillRect(area, look.background);
+  if (look.borderStyle != 0) drawSunken(painter, area);
+  const ListRows rows = listRows(area, look);
+  painter.save();
+  painter.setClipRect(rows.items);
+  painter.setFont(look.font);
+  for (int shown = 0; shown <= rows.visibleRows; ++shown) {
+    const int item = look.topIndex + shown;
+    if (item >= look.items.size()) break;
+    const QRect row(rows.items.left(), rows.items.top() + shown * rows.rowHeight,
+                    rows.items.width(), rows.rowHeight);
+    const bool selected = item == look.listIndex;
+    if (selected) painter.fillRect(row, edges::kSelection);
+    painter.setPen(selected ? edges::kHighlight : look.foreground);
+    painter.drawText(row.adjusted(kRowMargin, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter,
+                     look.items[item]);
+    if (look.focused && item == std::max(0, look.listIndex))
+      drawFocusRect(painter, row, selected ? edges::kHighlight : edges::kDarkShadow);
+  }
+  painter.restore();
+}
+
+}  // namespace
+
+QRect textArea(const QRect& area, const ControlLook& look) {
+  switch (look.kind) {
+    case ControlKind::CommandButton: {
+      const int inset = kBevel + (look.focused ? 1 : 0);
+      return area.adjusted(inset, inset, -inset, -inset);
+    }
+    case ControlKind::TextBox: {
+      const int border = fieldBorder(look);
+      return area.adjusted(border + kTextMargin, border, -border - kTextMargin, -border);
+    }
+    case ControlKind::Label:
+      if (look.borderStyle != 0) return area.adjusted(kBevel, kBevel, -kBevel, -kBevel);
+      return area;
+    case ControlKind::ListBox:
+    case ControlKind::Image:
+    case ControlKind::Document:
+      break;
+  }
+  return area;
+}
+
+QFont captionFont(const QRect& area, const ControlLook& look) {
+  return fittedCaptionFont(textArea(area, look), captionFlags(look), look);
+}
+
+ListRows listRows(const QRect& area, const ControlLook& look) {
+  ListRows rows;
+  const int border = fieldBorder(look);
+  rows.items = area.adjusted(border, border, -border, -border);
+  rows.rowHeight = std::max(1, QFontMetrics(look.font).height());
+  rows.visibleRows = std::max(1, rows.items.height() / rows.rowHeight);
+  if (look.items.size() > rows.visibleRows) {
+    rows.scrollBar = rows.items;
+    rows.scrollBar.setLeft(rows.items.right() - kScrollBarWidth + 1);
+    rows.items.setRight(rows.scrollBar.left() - 1);
+  }
+  return rows;
+}
+
+int ListRows::rowAt(const QPoint& point, int topIndex, int itemCount) const {
+  if (!items.contains(point)) return -1;
+  const int row = topIndex + (point.y() - items.top()) / rowHeight;
+  return row < itemCount ? row : -1;
+}
+
+int ListRows::lastTopIndex(int itemCount) const {
+  return std::max(0, itemCount - visibleRows);
+}
+
+QTextLayout& PaintCache::layout(const QString& text, const QFont& font, int width,
+                                const QTextOption& option) {
+  if (layout_ == nullptr || text != layoutText_ || font != layoutFont_ || width != layoutWidth_ ||
+      option.alignment() != layoutAlignment_ || option.wrapMode() != layoutWrap_) {
+    layout_ = laidOut(text, font, width, option);
+    layoutText_ = text;
+    layoutFont_ = font;
+    layoutWidth_ = width;
+    layoutAlignment_ = option.alignment();
+    layoutWrap_ = option.wrapMode();
+  }
+  return *layout_;
+}
+
+QFont PaintCache::captionFont(const QString& text, const QFont& font, const QSize& size, int flags,
+                              const std::function<QFont()>& fit) {
+  if (!captionKnown_ || text != captionText_ || font != captionDesigned_ || size != captionSize_ ||
+      flags != captionFlags_) {
+    captionFitted_ = fit();
+    captionText_ = text;
+    captionDesigned_ = font;
+    captionSize_ = size;
+    captionFlags_ = flags;
+    captionKnown_ = true;
+  }
+  return captionFitted_;
+}
+
+void paintControl(QPainter& painter, const QRect& area, const ControlLook& look, bool pressed,
+                  PaintCache* cache) {
+  switch (look.kind) {
+    case ControlKind::CommandButton:
+      paintButton(painter, area, look, pressed, cache);
+      break;
+    case ControlKind::Label:
+      paintLabel(painter, area, look, cache);
+      break;
+    case ControlKind::TextBox:
+      paintTextBox(painter, area, look, cache);
+      break;
+    case ControlKind::ListBox:
+      paintListBox(painter, area, look);
+      break;
+    case ControlKind::Image:
+    case ControlKind::Document:
+      paintPicture(painter, area, look.picture);
+      break;
+  }
+}
+
+}  // namespace veridraw::gui

@@ -1,0 +1,73 @@
+// The design of the Lotto screen, as its designer laid it out.
+#include "lotto/lotto_game.h"
+#include "lotto/veridraw7b.h"
+#include "store/ticket_store.h"
+#include "tickets/ticket_design.h"
+
+namespace veridraw {
+
+FormDesign veridraw7bDesign() {
+  FormDesign form{"Veridraw7b", 11880, 8595, colors::kButtonFace, {}};
+  std::vector<ControlDesign>& controls = form.controls;
+  const tickets::TicketGame& game = lottoGame();
+  tickets::addTicketControls(controls, {});
+  // clang-format off
+  tickets::insertAfter(controls, "List2", {
+    label("lblLotto", {5160, 120, 1695, 705}, "Lotto").font(24, true).centred(),
+  });
+  tickets::insertAfter(controls, "TxtDrawBox", {
+    label("LblLottoDraw", {840, 6705, 1335, 255}, "Lotto Numbers"),
+    textBox("TxtDrawnNumbers2", {2640, 6930, 375, 375}, "").at(7).back(colors::kBlue).fore(colors::kWhite).font(8.25, true).centred().lockedBox().noTabStop(),
+  });
+  // clang-format on
+  for (int k = 1; k <= 6; ++k)
+    controls.push_back(textBox("TxtDrawnNumbers2", {360 + (k - 1) * 360, 6960, 350, 300}, "")
+                           .at(k)
+                           .centred()
+                           .lockedBox()
+                           .noTabStop());
+  for (int division = 1; division <= game.prizeRows; ++division) {
+    const int top = 1800 + (division - 1) * 300;
+    const std::string number = std::to_string(division);
+    controls.push_back(textBox("TxtDivision" + number, {4650, top, 375, 285})
+                           .centred()
+                           .lockedBox()
+                           .noTabStop()
+                           .hidden());
+    controls.push_back(
+        label("LblDivision" + number, {5280, top, 2150, 255}, "Division " + number + " prize")
+            .hidden());
+  }
+
+  const ControlDesign cell = textBox("LineA", {0, 0, 300, 250}).centred().noTabStop().hidden();
+  tickets::addGrid(
+      controls, cell, game.mostLines, game.cellsPerLine,
+      {885, tickets::kLottoGridTop, tickets::kLottoColumnStep, tickets::kLottoRowStep});
+  // The spare cells after the grid, the box that no code uses, and the cover.
+  const int spareLefts[] = {480, 840, 1200};
+  for (int spare = 1; spare <= 3; ++spare)
+    controls.push_back(textBox("LineA", {spareLefts[spare - 1], 8230, 300, 285})
+                           .at(game.gridCells() + spare)
+                           .centred()
+                           .noTabStop()
+                           .hidden());
+  controls.push_back(textBox("LineA", {120, 8230, 300, 285}).at(0).noTabStop().hidden());
+  controls.push_back(tickets::coverBox(game, {840, 7440, 420, 285}));
+
+  tickets::addPrizeGrid(
+      controls, game,
+      {9450, tickets::kLottoGridTop, tickets::kLottoColumnStep, tickets::kLottoRowStep}, 250);
+  tickets::addLettersAndLineButtons(controls, game,
+                                    {.top = tickets::kLottoGridTop,
+                                     .height = 250,
+                                     .ticketLeft = 450,
+                                     .prizeLeft = 8970,
+                                     .buttonLeft = 3360,
+                                     .buttonTop = tickets::kLottoGridTop},
+                                    tickets::kLottoRowStep);
+
+  tickets::addNotice(controls);
+  return form;
+}
+
+}  // namespace veridraw
