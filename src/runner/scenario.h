@@ -6,6 +6,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <ostream>
 #include <string>
 #include <string_view>
@@ -62,9 +63,31 @@ class Scenario {
   void expect(const Words& words);
   void print(const Words& words);
 
-  void expectProperty(const Words& words);
+  // What `expect` and `print` look at: a subject of the table, or otherwise a
+  // property of a target.
+  struct Subject {
+    void (Scenario::*expect)(const Words&);
+    void (Scenario::*print)(const Words&);  // null: the subject has no print line
+  };
+  static const std::map<std::string, Subject>& subjects();
+  void expectForm(const Words& words);
+  void printForm(const Words& words);
+  void expectFocus(const Words& words);
+  void printFocus(const Words& words);
+  void expectItems(const Words& words);
+  void printItems(const Words& words);
+  void expectFile(const Words& words);
+  void expectNoFile(const Words& words);
+  void printFile(const Words& words);
   void expectDialog(const Words& words);
+  void expectNoDialog(const Words& words);
+  void expectState(const Words& words);
+  void expectFatal(const Words& words);
+  void expectProperty(const Words& words);
+  void printProperty(const Words& words);
   std::string describeProperty(const std::string& targetText) const;
+  const std::vector<std::string>& itemsOf(const Token& target) const;
+  std::optional<std::string> fileIfAny(const std::string& name) const;
 
   Application& runningProgram(const char* action) const;
   Form& formOf(const Target& target) const;
