@@ -7,9 +7,9 @@
 #include <fstream>
 #include <string>
 
-#include "screen/working_directory.h"
 #include "screen/application.h"
 #include "screen/form.h"
+#include "screen/working_directory.h"
 #include "store/draw_store.h"
 #include "store/probes.h"
 

@@ -2,9 +2,6 @@
 
 #include <stdexcept>
 
-#include "program/program.h"
-#include "tickets/ticket_game.h"
-
 namespace veridraw::bench {
 
 TemporaryFolder::TemporaryFolder() {
@@ -12,28 +9,15 @@ TemporaryFolder::TemporaryFolder() {
   write(std::to_string(kCurrentDraw), "720\r\nX0308172239401205\r\n\r\n");
 }
 
+ProgramParts::ProgramParts(const TemporaryFolder& folder)
+    : application(testing::makeProgram(dialogs, folder.path())) {}
+
 Program::Program(const TemporaryFolder& folder)
-    : application_(std::make_unique<Application>(dialogs_, folder.path())) {
-  addVeridrawForms(*application_);
-}
+    : ProgramParts(folder), testing::Driver(*ProgramParts::application) {}
 
 void Program::start(const std::string& form) {
-  application_->start(form);
-  if (!application_->running()) throw std::runtime_error("the program stopped at " + form);
-}
-
-void Program::click(const std::string& control) {
-  application_->click(application_->activeForm()->control(control));
-}
-
-void Program::type(const std::string& characters) {
-  for (const char c : characters)
-    application_->typeCharacter(c);
-}
-
-void Program::chooseLines(int lines) {
-  click("BtnCheckNewTicket");
-  click(std::string("BtnLine") + tickets::LineLetter(lines));
+  application().start(form);
+  if (!application().running()) throw std::runtime_error("the program stopped at " + form);
 }
 
 std::vector<std::string> ticketLines(int lines) {

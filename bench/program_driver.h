@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "screen/application.h"
+#include "support/driver.h"
 #include "support/test_support.h"
 
 namespace veridraw::bench {
@@ -21,22 +22,22 @@ class TemporaryFolder : public testing::TemporaryDirectory {
 // The current draw of a folder, with its Lotto numbers and PowerBall.
 inline constexpr int kCurrentDraw = 720;
 
-// The program's forms, in a folder, before the first form is shown.
-class Program {
+// What a program is made of, made before the driver that works on it.
+struct ProgramParts {
+  explicit ProgramParts(const TemporaryFolder& folder);
+  // No message box is expected: one would stop the benchmark.
+  testing::QueuedDialogs dialogs;
+  std::unique_ptr<Application> application;
+};
+
+// The program's forms, in a folder, before the first form is shown; the
+// user's actions by name go to the form on screen.
+class Program : private ProgramParts, public testing::Driver {
  public:
   explicit Program(const TemporaryFolder& folder);
   // Shows a screen as the first form.
   void start(const std::string& form);
-  void click(const std::string& control);
-  void type(const std::string& characters);
-  // The new-ticket road of a ticket screen up to its first cell.
-  void chooseLines(int lines);
-  Application& application() { return *application_; }
-
- private:
-  // No message box is expected: one would stop the benchmark.
-  testing::QueuedDialogs dialogs_;
-  std::unique_ptr<Application> application_;
+  Application& application() { return *ProgramParts::application; }
 };
 
 // That many valid lines of six numbers in two digits each, one line a string.

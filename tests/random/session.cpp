@@ -12,14 +12,15 @@
 #include <utility>
 #include <vector>
 
+#include "program/program.h"
 #include "runner/delivered_files.h"
 #include "runner/scenario_words.h"
 #include "runner/tokens.h"
 #include "screen/application.h"
 #include "screen/strings.h"
-#include "program/program.h"
 #include "store/draw_store.h"
 #include "store/ticket_store.h"
+#include "support/driver.h"
 
 namespace veridraw::random_sessions {
 
@@ -275,8 +276,7 @@ void Session::noteNumbersOnDisk() {
 }
 
 void Session::startProgram() {
-  program_ = std::make_unique<Application>(dialogs_, directory_);
-  addVeridrawForms(*program_);
+  program_ = testing::makeProgram(dialogs_, directory_);
   Action launch{"start", false, [this](Action&) { program_->start(kFirstForm); }};
   runEvent(launch);
 }

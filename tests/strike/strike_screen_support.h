@@ -8,9 +8,8 @@
 #include <string>
 #include <vector>
 
-#include "program/program.h"
-#include "tickets/ticket_game.h"
 #include "support/screen_fixture.h"
+#include "tickets/ticket_game.h"
 
 namespace veridraw::testing {
 
@@ -26,8 +25,7 @@ class StrikeScreen : public ScreenFixture {
     writeDraw("705", "Z07152231");
     dir.write(kSavedName, ticketFile(kSavedName, {"01020304"}));
     dir.write("DrawNumber", "705\r\n");
-    app = std::make_unique<Application>(dialogs, dir.path());
-    addVeridrawForms(*app);
+    app = makeProgram(dialogs, dir.path());
     app->start("Veridraw7c");
     ASSERT_TRUE(app->running());
   }

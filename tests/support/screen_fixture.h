@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "screen/application.h"
+#include "support/driver.h"
 #include "support/test_support.h"
 
 namespace veridraw::testing {
@@ -36,17 +37,13 @@ class ScreenFixture : public ::testing::Test {
     return app->focus() == screen().find(name, index);
   }
 
-  void click(const std::string& name) { app->click(c(name)); }
+  // The user's actions on the controls of this screen.
+  Driver user() const { return Driver(*app, formName_); }
+  void click(const std::string& name) { user().click(name); }
   void pick(const std::string& list, const std::string& item) {
-    const auto& items = c(list).items();
-    const auto found = std::find(items.begin(), items.end(), item);
-    ASSERT_NE(found, items.end()) << item;
-    app->selectItem(c(list), static_cast<int>(found - items.begin()));
+    ASSERT_TRUE(user().pick(list, item)) << item;
   }
-  void type(const std::string& keys) {
-    for (const char key : keys)
-      app->typeCharacter(key);
-  }
+  void type(const std::string& keys) { user().type(keys); }
 
   TemporaryDirectory dir;
   QueuedDialogs dialogs;

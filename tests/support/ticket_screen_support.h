@@ -7,8 +7,8 @@
 #include <utility>
 #include <vector>
 
-#include "tickets/ticket_game.h"
 #include "support/screen_fixture.h"
+#include "tickets/ticket_game.h"
 
 namespace veridraw::testing {
 
@@ -57,10 +57,7 @@ class TicketScreenTest : public ScreenFixture {
 
   std::string text(int cell) const { return c("LineA", cell).text(); }
   // The new-ticket road up to the first cell of a ticket of `lines` lines.
-  void chooseLines(int lines) {
-    click("BtnCheckNewTicket");
-    click(std::string("BtnLine") + tickets::LineLetter(lines));
-  }
+  void chooseLines(int lines) { user().chooseLines(lines); }
   std::vector<std::string> messages() const {
     std::vector<std::string> prompts;
     for (const auto& shown : dialogs.shown)
