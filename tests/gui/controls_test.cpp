@@ -186,7 +186,7 @@ class ControlsTest : public QObject {
     QPoint place;
     const DialogAnswer reply([&place](QWidget* dialog) {
       auto* box = qobject_cast<QInputDialog*>(dialog);
-      place = box->pos();
+      place = placeOnDesignedDesktop(*box);
       box->setTextValue("42");
       box->accept();
     });

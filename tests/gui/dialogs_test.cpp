@@ -105,7 +105,7 @@ class DialogsTest : public QObject {
       title = box->windowTitle();
       prompt = box->labelText();
       start = box->textValue();
-      place = box->pos();
+      place = placeOnDesignedDesktop(*box);
       box->setTextValue("Caf\u00E9 \u20AC5 \u4E2D");
       box->accept();
     });

@@ -4,11 +4,13 @@
 #include <QApplication>
 #include <QInputDialog>
 #include <QLineEdit>
+#include <QScreen>
 #include <QTest>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 
+#include "gui/dialogs/window_placement.h"
 #include "program/program.h"
 #include "runner/delivered_files.h"
 
@@ -107,7 +109,7 @@ DialogAnswer answerMessageBox(QMessageBox::StandardButton button, MessageBoxSeen
 DialogAnswer answerInputBox(const QString& answer, InputBoxSeen& seen) {
   return DialogAnswer([&seen, answer](QWidget* dialog) {
     auto* box = qobject_cast<QInputDialog*>(dialog);
-    seen = {box->windowTitle(), box->labelText(), box->textValue(), box->pos()};
+    seen = {box->windowTitle(), box->labelText(), box->textValue(), placeOnDesignedDesktop(*box)};
     auto* field = box->findChild<QLineEdit*>();
     QTest::keyClicks(field, answer);
     QTest::keyClick(field, Qt::Key_Return);
@@ -116,6 +118,10 @@ DialogAnswer answerInputBox(const QString& answer, InputBoxSeen& seen) {
 
 QPoint middleOf(const QWidget& view) {
   return view.rect().center();
+}
+
+QPoint placeOnDesignedDesktop(const QWidget& window) {
+  return window.pos() - designedDesktop(window.screen()->availableGeometry()).topLeft();
 }
 
 }  // namespace veridraw::gui::testing

@@ -105,6 +105,10 @@ struct InputBoxSeen {
 // its field key by key and presses Enter, which is OK.
 DialogAnswer answerInputBox(const QString& answer, InputBoxSeen& seen);
 
+// Where a window's frame stands on the 800 x 600 desktop that the screens were
+// laid out on, as the program places it on the screen.
+QPoint placeOnDesignedDesktop(const QWidget& window);
+
 // The point of a view, in its own coordinates, that a click should hit.
 QPoint middleOf(const QWidget& view);
 

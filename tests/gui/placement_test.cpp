@@ -3,6 +3,7 @@
 // clear of the focused control and of the cell painted red; an input box with
 // its frame's corner where the logic asks.
 #include <QAbstractButton>
+#include <QFontDatabase>
 #include <QInputDialog>
 #include <QMessageBox>
 #include <QScreen>
@@ -153,18 +154,74 @@ class PlacementTest : public QObject {
 
   void theFrameOfAnInputBoxHasItsCornerWhereTheLogicSaysWithTheFrameKnown() {
     DesktopDialogs dialogs;
-    QPoint corner;
-    QRect client;
+    QRect frame, client, desktop;
     const DialogAnswer reply([&](QWidget* dialog) {
-      corner = dialog->frameGeometry().topLeft();
+      frame = dialog->frameGeometry();
       client = dialog->geometry();
+      desktop = designedDesktop(dialog->screen()->availableGeometry());
       qobject_cast<QInputDialog*>(dialog)->reject();
     });
     dialogs.InputBox("Enter the Draw Number", "Veridraw", "", 3000, 1500);
     QVERIFY(reply.answered());
-    QCOMPARE(corner, QPoint(200, 100));
+    QCOMPARE(frame.topLeft() - desktop.topLeft(), QPoint(200, 100));
     // The client area lies inside the frame, below its top edge.
-    QVERIFY(client.top() >= corner.y());
+    QVERIFY(client.top() >= frame.top());
+  }
+
+  void theDesignedDesktopIsCentredOnTheScreenOrStartsAtItsCorner() {
+    QCOMPARE(designedDesktop(QRect(0, 0, 800, 600)), QRect(0, 0, 800, 600));
+    QCOMPARE(designedDesktop(QRect(0, 0, 2560, 1600)), QRect(880, 500, 800, 600));
+    // A panel at the top: centred on what is left.
+    QCOMPARE(designedDesktop(QRect(0, 30, 1024, 738)), QRect(112, 99, 800, 600));
+    // A screen smaller than the design keeps its top-left corner.
+    QCOMPARE(designedDesktop(QRect(0, 0, 640, 480)).topLeft(), QPoint(0, 0));
+  }
+
+  void aWindowIsCentredOnTheDesignedDesktopAndAnInputBoxStandsWhereItsDesignerSawIt() {
+    const QRect large(0, 0, 2560, 1600);
+    const QPoint window = formWindowPlace(large, kStartFrame);
+    // The designed point of the draw number's box, 3280 and 2750 twips.
+    const QSize box(200, 120);
+    const QPoint input = inputBoxPlace(large, QPoint(219, 183), box);
+    // Relative to the window, as on the 800 x 600 desktop.
+    QCOMPARE(input - window, QPoint(219, 183) - formWindowPlace(kScreen, kStartFrame));
+    QCOMPARE(input, QPoint(880 + 219, 500 + 183));
+    // Where the box would leave a small screen, it stays on it.
+    const QRect small(0, 0, 320, 240);
+    QVERIFY(small.contains(QRect(inputBoxPlace(small, QPoint(219, 183), box), box)));
+  }
+
+  void aModalBoxOffersOnlyItsCloseControlHasAFixedSizeAndRoomForItsTitle() {
+    DesktopDialogs dialogs;
+    for (const bool input : {false, true}) {
+      Qt::WindowFlags flags;
+      QSize minimum, maximum;
+      int width = 0;
+      const DialogAnswer reply([&](QWidget* dialog) {
+        flags = dialog->windowFlags();
+        minimum = dialog->minimumSize();
+        maximum = dialog->maximumSize();
+        width = dialog->width();
+        if (auto* box = qobject_cast<QInputDialog*>(dialog)) {
+          box->reject();
+        } else {
+          qobject_cast<QMessageBox*>(dialog)->button(QMessageBox::Ok)->click();
+        }
+      });
+      const std::string title = "A title longer than what the box would hold";
+      if (input) {
+        dialogs.InputBox("Ticket", title, "", 0, 0);
+      } else {
+        dialogs.MsgBox("Saved", msgbox::kOk, title);
+      }
+      QVERIFY(reply.answered());
+      QVERIFY(flags.testFlag(Qt::WindowCloseButtonHint));
+      QVERIFY(!flags.testFlag(Qt::WindowMinimizeButtonHint));
+      QVERIFY(!flags.testFlag(Qt::WindowMaximizeButtonHint));
+      QCOMPARE(minimum, maximum);
+      const QFontMetrics metrics(QFontDatabase::systemFont(QFontDatabase::TitleFont));
+      QVERIFY(width > metrics.horizontalAdvance(QString::fromStdString(title)));
+    }
   }
 };
 

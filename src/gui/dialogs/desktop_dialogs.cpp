@@ -1,5 +1,7 @@
 #include "gui/dialogs/desktop_dialogs.h"
 
+#include <QFontDatabase>
+#include <QGridLayout>
 #include <QInputDialog>
 #include <QMessageBox>
 #include <QScreen>
@@ -22,6 +24,30 @@ QString dialogText(const std::string& text) {
   return fromWindows1252(text).replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
 }
 
+// A modal box as the platform's own are: a title bar with only its close
+// control, a size that the user can't change, and room for its whole title.
+// The window manager's title font and buttons are its own: the room is
+// measured in the desktop's title font, with a title bar's height for each of
+// the icon and the buttons that a window manager may still put beside it.
+void frameAsModalBox(QDialog& box) {
+  box.setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                     Qt::WindowCloseButtonHint);
+  const QFontMetrics title(QFontDatabase::systemFont(QFontDatabase::TitleFont));
+  constexpr int kTitleBarItems = 5;
+  const int titleBarHeight = title.height() * 8 / 5;
+  const int titleWidth =
+      title.horizontalAdvance(box.windowTitle()) + kTitleBarItems * titleBarHeight;
+  // An input dialog makes its layout when it is first measured.
+  if (box.layout() == nullptr) box.sizeHint();
+  auto* room = new QSpacerItem(titleWidth, 0, QSizePolicy::Fixed, QSizePolicy::Minimum);
+  if (auto* grid = qobject_cast<QGridLayout*>(box.layout())) {
+    grid->addItem(room, grid->rowCount(), 0, 1, grid->columnCount());
+  } else {
+    box.layout()->addItem(room);
+  }
+  box.layout()->setSizeConstraint(QLayout::SetFixedSize);
+}
+
 }  // namespace
 
 int DesktopDialogs::MsgBox(const std::string& prompt, int buttons, const std::string& title) {
@@ -32,6 +58,7 @@ int DesktopDialogs::MsgBox(const std::string& prompt, int buttons, const std::st
                   dialogText(prompt), yesNo ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok,
                   parent);
   box.setTextFormat(Qt::PlainText);
+  frameAsModalBox(box);
   if (const auto* window = dynamic_cast<const FormWindow*>(parent)) {
     const QRect owner = window->frameGeometry();
     const QRect keepClear = window->keepClearArea();
@@ -54,9 +81,13 @@ std::string DesktopDialogs::InputBox(const std::string& prompt, const std::strin
   box.setWindowTitle(fromWindows1252(title));
   box.setLabelText(dialogText(prompt));
   box.setTextValue(fromWindows1252(defaultText));
-  // The frame's top-left corner, title bar included, at the point given.
-  const QPoint corner(toPixels(xpos), toPixels(ypos));
-  new FramePlacer(box, [corner](const QSize&) { return corner; });
+  frameAsModalBox(box);
+  // The frame's top-left corner, title bar included, at the point given on
+  // the desktop that the screens were laid out on.
+  const QPoint designed(toPixels(xpos), toPixels(ypos));
+  new FramePlacer(box, [&box, designed](const QSize& frame) {
+    return inputBoxPlace(box.screen()->availableGeometry(), designed, frame);
+  });
   if (box.exec() != QDialog::Accepted) return "";
   return toWindows1252(box.textValue());
 }
@@ -71,6 +102,7 @@ void showRunTimeError(QWidget* owner, const FatalError& error) {
   QMessageBox box(QMessageBox::Critical, fromWindows1252(kFormCaption), runTimeErrorText(error),
                   QMessageBox::Ok, owner);
   box.setTextFormat(Qt::PlainText);
+  frameAsModalBox(box);
   box.exec();
 }
 

@@ -1,9 +1,12 @@
 #include "gui/dialogs/window_placement.h"
 
 #include <QEvent>
+#include <QMargins>
 #include <QWidget>
 #include <algorithm>
 #include <array>
+
+#include "gui/look/appearance.h"
 
 namespace veridraw::gui {
 
@@ -11,6 +14,9 @@ namespace {
 
 // The room left between a message box and the area it stays clear of.
 constexpr int kGap = 8;
+// The desktop the screens were laid out on, 800 x 600 pixels, in twips.
+constexpr int kDesignedDesktopWidth = 12000;
+constexpr int kDesignedDesktopHeight = 9000;
 
 // The top-left corner that keeps a frame of `size` within `available` as far
 // as it can; a frame too big keeps its top-left corner on the screen.
@@ -33,6 +39,22 @@ QPoint centredFrame(const QRect& available, const QSize& frame) {
   QRect placed(QPoint(), frame);
   placed.moveCenter(available.center());
   return within(available, frame, placed.topLeft());
+}
+
+QRect designedDesktop(const QRect& available) {
+  QRect desktop(QPoint(), QSize(toPixels(kDesignedDesktopWidth), toPixels(kDesignedDesktopHeight)));
+  desktop.moveCenter(available.center());
+  if (desktop.width() > available.width()) desktop.moveLeft(available.left());
+  if (desktop.height() > available.height()) desktop.moveTop(available.top());
+  return desktop;
+}
+
+QPoint formWindowPlace(const QRect& available, const QSize& frame) {
+  return within(available, frame, centredFrame(designedDesktop(available), frame));
+}
+
+QPoint inputBoxPlace(const QRect& available, const QPoint& designed, const QSize& frame) {
+  return within(available, frame, designedDesktop(available).topLeft() + designed);
 }
 
 QPoint messageBoxPlace(const QRect& available, const QRect& owner, const QSize& box,
@@ -70,12 +92,26 @@ FramePlacer::FramePlacer(QWidget& window, Place place)
 }
 
 bool FramePlacer::eventFilter(QObject* watched, QEvent* event) {
-  if (watched == &window_) {
+  if (watched == &window_ && window_.isVisible()) {
     switch (event->type()) {
       case QEvent::Show:
       case QEvent::Move:
       case QEvent::Resize:
-        if (window_.frameGeometry().size() != placedFrame_) place();
+      // The window manager's frame may come to be known only when the window
+      // is mapped, activated or first painted, without a move or a resize.
+      case QEvent::WindowActivate:
+      case QEvent::Paint:
+        if (window_.size().grownBy(frameMargins()) != placedFrame_) {
+          place();
+        } else if (window_.frameGeometry().topLeft() != corner_ && correctionsLeft_ > 0) {
+          // Platforms differ in whether a window not shown yet is placed by
+          // its frame or by its client area: the first places after the
+          // show are put right, later moves are the user's.
+          --correctionsLeft_;
+          window_.move(corner_);
+        } else {
+          correctionsLeft_ = 0;
+        }
         break;
       default:
         break;
@@ -84,10 +120,29 @@ bool FramePlacer::eventFilter(QObject* watched, QEvent* event) {
   return QObject::eventFilter(watched, event);
 }
 
+QMargins FramePlacer::frameMargins() const {
+  const auto margins = [](const QWidget& window) {
+    const QRect frame = window.frameGeometry();
+    const QRect client = window.geometry();
+    return QMargins(client.left() - frame.left(), client.top() - frame.top(),
+                    frame.right() - client.right(), frame.bottom() - client.bottom());
+  };
+  if (window_.isVisible()) return margins(window_);
+  // Not shown yet, and so without a frame: the one that the window manager
+  // gave the window it belongs to is the best guess.
+  const QWidget* owner = window_.parentWidget() ? window_.parentWidget()->window() : nullptr;
+  return owner != nullptr && owner->isVisible() ? margins(*owner) : QMargins();
+}
+
 void FramePlacer::place() {
-  placedFrame_ = window_.frameGeometry().size();
-  // For a window, move() places the frame's top-left corner, once the frame is known.
-  window_.move(place_(placedFrame_));
+  const QMargins margins = frameMargins();
+  placedFrame_ = window_.size().grownBy(margins);
+  corner_ = place_(placedFrame_);
+  correctionsLeft_ = kCorrections;
+  // Once shown, move() places the frame's top-left corner. Before, the X11
+  // window system puts the window's client area at the point given, so the
+  // frame's corner is where the frame is expected to be.
+  window_.move(window_.isVisible() ? corner_ : corner_ + QPoint(margins.left(), margins.top()));
 }
 
 }  // namespace veridraw::gui

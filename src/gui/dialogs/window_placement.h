@@ -5,6 +5,7 @@
 // the screen, frames included.
 #pragma once
 
+#include <QMargins>
 #include <QObject>
 #include <QPoint>
 #include <QRect>
@@ -19,6 +20,19 @@ namespace veridraw::gui {
 // `available` area. A frame too big for the area keeps its top-left corner,
 // and with it the title bar, on the screen.
 QPoint centredFrame(const QRect& available, const QSize& frame);
+
+// The screens were laid out for an 800 x 600 desktop that the window fills.
+// On any screen, that desktop is an area of 800 x 600 of the design's pixels
+// (scaled with the screen) centred on the `available` area, or from its
+// top-left corner where the screen is smaller; what the program places on the
+// screen stands in it where its designer saw it.
+QRect designedDesktop(const QRect& available);
+// The top-left corner of a form window's frame: centred on the designed
+// desktop, its title bar on the screen.
+QPoint formWindowPlace(const QRect& available, const QSize& frame);
+// The top-left corner of an input box's frame: at `designed` on the designed
+// desktop, as far as a frame of `frame` size stays on the screen.
+QPoint inputBoxPlace(const QRect& available, const QPoint& designed, const QSize& frame);
 
 // The top-left corner of a message box's frame of `box` size: centred on the
 // owner's frame as the platform puts it, unless it would cover `keepClear`
@@ -43,10 +57,17 @@ class FramePlacer : public QObject {
 
  private:
   void place();
+  // The window's frame around its client area, or the frame it is expected to get.
+  QMargins frameMargins() const;
+
+  // How often a frame that the platform put elsewhere is moved to its place.
+  static constexpr int kCorrections = 3;
 
   QWidget& window_;
   Place place_;
   QSize placedFrame_;
+  QPoint corner_;
+  int correctionsLeft_ = 0;
 };
 
 }  // namespace veridraw::gui

@@ -49,7 +49,7 @@ FormWindow::FormWindow(Desktop& desktop, Form& form)
   }
   // The whole frame centred, title bar included, once the frame is known.
   new FramePlacer(*this, [this](const QSize& frame) {
-    return centredFrame(screen()->availableGeometry(), frame);
+    return formWindowPlace(screen()->availableGeometry(), frame);
   });
   loss_ = std::make_unique<NativeWindowLoss>(*this, [this] { windowClosed(); });
 }
