@@ -85,6 +85,19 @@ QPoint messageBoxPlace(const QRect& available, const QRect& owner, const QSize& 
   return best;
 }
 
+namespace {
+
+// The frame around a window's client area, as far as the toolkit knows it:
+// none before the window manager has framed the window.
+QMargins knownFrame(const QWidget& window) {
+  const QRect frame = window.frameGeometry();
+  const QRect client = window.geometry();
+  return QMargins(client.left() - frame.left(), client.top() - frame.top(),
+                  frame.right() - client.right(), frame.bottom() - client.bottom());
+}
+
+}  // namespace
+
 FramePlacer::FramePlacer(QWidget& window, Place place)
     : QObject(&window), window_(window), place_(std::move(place)) {
   window_.installEventFilter(this);
@@ -103,10 +116,12 @@ bool FramePlacer::eventFilter(QObject* watched, QEvent* event) {
       case QEvent::Paint:
         if (window_.size().grownBy(frameMargins()) != placedFrame_) {
           place();
-        } else if (window_.frameGeometry().topLeft() != corner_ && correctionsLeft_ > 0) {
+        } else if (!knownFrame(window_).isNull() && window_.frameGeometry().topLeft() != corner_ &&
+                   correctionsLeft_ > 0) {
           // Platforms differ in whether a window not shown yet is placed by
-          // its frame or by its client area: the first places after the
-          // show are put right, later moves are the user's.
+          // its frame or by its client area: once the frame is known, the
+          // first places after the show are put right; later moves are the
+          // user's.
           --correctionsLeft_;
           window_.move(corner_);
         } else {
@@ -121,17 +136,12 @@ bool FramePlacer::eventFilter(QObject* watched, QEvent* event) {
 }
 
 QMargins FramePlacer::frameMargins() const {
-  const auto margins = [](const QWidget& window) {
-    const QRect frame = window.frameGeometry();
-    const QRect client = window.geometry();
-    return QMargins(client.left() - frame.left(), client.top() - frame.top(),
-                    frame.right() - client.right(), frame.bottom() - client.bottom());
-  };
-  if (window_.isVisible()) return margins(window_);
-  // Not shown yet, and so without a frame: the one that the window manager
-  // gave the window it belongs to is the best guess.
+  const QMargins known = knownFrame(window_);
+  if (!known.isNull()) return known;
+  // Not framed yet: the frame that the window manager gave the window it
+  // belongs to is the best guess.
   const QWidget* owner = window_.parentWidget() ? window_.parentWidget()->window() : nullptr;
-  return owner != nullptr && owner->isVisible() ? margins(*owner) : QMargins();
+  return owner != nullptr && owner->isVisible() ? knownFrame(*owner) : QMargins();
 }
 
 void FramePlacer::place() {
@@ -139,10 +149,11 @@ void FramePlacer::place() {
   placedFrame_ = window_.size().grownBy(margins);
   corner_ = place_(placedFrame_);
   correctionsLeft_ = kCorrections;
-  // Once shown, move() places the frame's top-left corner. Before, the X11
-  // window system puts the window's client area at the point given, so the
-  // frame's corner is where the frame is expected to be.
-  window_.move(window_.isVisible() ? corner_ : corner_ + QPoint(margins.left(), margins.top()));
+  // move() places the frame's top-left corner by the frame that the toolkit
+  // knows; while it knows none, the window system puts the client area at the
+  // point given, so the point is where the client area is expected.
+  const QMargins known = knownFrame(window_);
+  window_.move(corner_ + QPoint(margins.left() - known.left(), margins.top() - known.top()));
 }
 
 }  // namespace veridraw::gui
