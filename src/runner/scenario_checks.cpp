@@ -40,9 +40,9 @@ void Scenario::expect(const Words& words) {
     if (wanted != list.items()) {
       std::string expected, found;
       for (const auto& item : wanted)
-        expected += " " + quote(item);
+        (expected += ' ') += quote(item);
       for (const auto& item : list.items())
-        found += " " + quote(item);
+        (found += ' ') += quote(item);
       throw ScenarioFailure("expected items" + (expected.empty() ? " (none)" : expected) +
                             ", found" + (found.empty() ? " (none)" : found));
     }
