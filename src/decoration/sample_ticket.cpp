@@ -10,7 +10,9 @@ constexpr int kColumnStep = 300;
 constexpr int kLineStep = 255;
 
 std::string twoDigits(int number) {
-  return (number < 10 ? "0" : "") + std::to_string(number);
+  std::string digits = number < 10 ? "0" : "";
+  digits += std::to_string(number);
+  return digits;
 }
 
 // Lines of a ticket are lettered A to O with no letter I.

@@ -153,7 +153,7 @@ FormDesign veridraw7fDesign() {
   addResultsPanel(form.controls);
   // Last, so that it stands in front of the spare cells.
   form.controls.push_back(pictureButton("CmdNotice", {120, 8160, 2655, 375}, "notice")
-                              .tip("Veridraw is free to use and to share"));
+                              .tip("Veridraw is free software under the GNU GPL, version 3 or later"));
   return form;
 }
 

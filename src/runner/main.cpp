@@ -9,10 +9,26 @@
 
 namespace {
 
+constexpr const char* kUsage =
+    "usage: veridraw-script [--verbose] FILE...\n"
+    "       veridraw-script [--verbose] < SCENARIO\n"
+    "       veridraw-script --help | --version\n";
+
 int usage() {
-  std::cerr << "usage: veridraw-script [--verbose] FILE...\n"
-               "       veridraw-script [--verbose] < SCENARIO\n";
+  std::cerr << kUsage;
   return 2;
+}
+
+int help() {
+  std::cout << kUsage
+            << "Plays scenarios of Veridraw against its screens without a display.\n"
+               "\n"
+               "  --verbose      also print every dialog and fatal error as it happens\n"
+               "  -h, --help     print this help and end\n"
+               "  --version      print the version and end\n"
+               "\n"
+               "See the manual page veridraw-script(1).\n";
+  return 0;
 }
 
 }  // namespace
@@ -24,7 +40,12 @@ int main(int argc, char** argv) {
     const std::string argument = argv[i];
     if (argument == "--verbose") {
       verbose = true;
-    } else if (argument == "--help" || (argument.size() > 1 && argument[0] == '-')) {
+    } else if ((argument == "--help" || argument == "-h") && argc == 2) {
+      return help();
+    } else if (argument == "--version" && argc == 2) {
+      std::cout << "veridraw-script " << VERIDRAW_VERSION << "\n";
+      return 0;
+    } else if (argument.size() > 1 && argument[0] == '-') {
       return usage();
     } else {
       files.push_back(argument);

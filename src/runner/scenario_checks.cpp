@@ -18,7 +18,7 @@ namespace {
 std::string quotedItems(const std::vector<std::string>& items) {
   std::string text;
   for (const auto& item : items)
-    text += " " + quote(item);
+    (text += ' ') += quote(item);
   return text;
 }
 

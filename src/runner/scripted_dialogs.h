@@ -40,7 +40,7 @@ struct QueuedReply {
 class ScriptedDialogs : public Dialogs {
  public:
   void queue(Reply reply, std::string written = {}, int line = 0) {
-    replies_.push_back({std::move(reply), std::move(written), line});
+    replies_.emplace_back(std::move(reply), std::move(written), line);
   }
   // The oldest reply that no dialog has taken yet, or null.
   const QueuedReply* oldestUnused() const { return replies_.empty() ? nullptr : &replies_.front(); }

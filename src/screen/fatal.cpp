@@ -7,6 +7,25 @@ FatalError::FatalError(int number, std::string text)
       number_(number),
       text_(std::move(text)) {}
 
+void FatalError::setOperation(std::string operation) {
+  if (operation_.empty()) operation_ = std::move(operation);
+}
+
+std::string describeFatalError(const FatalError& error, const std::filesystem::path& folder) {
+  std::string line = "error ";
+  line += std::to_string(error.number());
+  line += " (";
+  line += error.text();
+  line += ')';
+  if (!error.operation().empty()) {
+    line += ' ';
+    line += error.operation();
+  }
+  line += " in ";
+  line += folder.string();
+  return line;
+}
+
 std::string errorText(int number) {
   switch (number) {
     case 5:
@@ -41,6 +60,13 @@ std::string errorText(int number) {
 void raiseFatal(ErrorNumber number) {
   const int value = static_cast<int>(number);
   throw FatalError(value, errorText(value));
+}
+
+void raiseFatal(ErrorNumber number, std::string operation) {
+  const int value = static_cast<int>(number);
+  FatalError error(value, errorText(value));
+  error.setOperation(std::move(operation));
+  throw error;
 }
 
 void raiseMissingElement(int index) {

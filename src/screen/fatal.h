@@ -3,6 +3,7 @@
 // as the classic forms runtime does.
 #pragma once
 
+#include <filesystem>
 #include <stdexcept>
 #include <string>
 
@@ -29,16 +30,28 @@ class FatalError : public std::runtime_error {
   FatalError(int number, std::string text);
   int number() const { return number_; }
   const std::string& text() const { return text_; }
+  // What the platform was doing when the error came, such as
+  // `opening "1105" for input`; empty when no file was concerned. The first
+  // operation set is kept: it is the one nearest to the cause.
+  const std::string& operation() const { return operation_; }
+  void setOperation(std::string operation);
 
  private:
   int number_;
   std::string text_;
+  std::string operation_;
 };
 
 // The platform's text for an error number ("File not found" for 53).
 std::string errorText(int number);
 
+// One line about a fatal error for a user or a bug report: the number, its
+// text, the operation if any and the working folder, as in
+// `error 53 (File not found) opening "1105" for input in /home/u/draws`.
+std::string describeFatalError(const FatalError& error, const std::filesystem::path& folder);
+
 [[noreturn]] void raiseFatal(ErrorNumber number);
+[[noreturn]] void raiseFatal(ErrorNumber number, std::string operation);
 // Error 340 names the missing element in its text.
 [[noreturn]] void raiseMissingElement(int index);
 

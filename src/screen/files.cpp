@@ -9,6 +9,7 @@
 #include <cerrno>
 #include <fstream>
 #include <iterator>
+#include <string_view>
 #include <system_error>
 
 #include "screen/fatal.h"
@@ -70,6 +71,38 @@ bool isLineEnd(char c) {
   return c == '\r' || c == '\n';
 }
 
+// An operation on a named file for the report of an error, such as
+// `opening "1105" for input`. Control characters, quotes and bytes outside
+// ASCII in the name are written as \xNN, so that the report stays one plain
+// line on any terminal.
+std::string operationOn(std::string_view verb, const std::string& name,
+                        std::string_view after = {}) {
+  static constexpr char kHex[] = "0123456789ABCDEF";
+  std::string text(verb);
+  text += " \"";
+  for (const char c : name) {
+    const auto byte = static_cast<unsigned char>(c);
+    if (byte < 32 || byte >= 127 || c == '"' || c == '\\') {
+      text += "\\x";
+      text += kHex[byte >> 4];
+      text += kHex[byte & 15];
+    } else {
+      text += c;
+    }
+  }
+  text += '"';
+  text += after;
+  return text;
+}
+
+// An operation on a file number that is not open, which has no name.
+std::string operationOn(std::string_view verb, int number) {
+  std::string text(verb);
+  text += " file #";
+  text += std::to_string(number);
+  return text;
+}
+
 }  // namespace
 
 SequentialFiles::SequentialFiles(fs::path workingDirectory)
@@ -111,18 +144,30 @@ bool SequentialFiles::isInside(const fs::path& path) const {
 
 SequentialFiles::OpenFile& SequentialFiles::slot(int number, FileMode mode) {
   if (number < 1 || number > kFileNumbers || !files_[number - 1] ||
-      files_[number - 1]->mode != mode)
-    raiseFatal(ErrorNumber::BadFileNameOrNumber);
+      files_[number - 1]->mode != mode) {
+    raiseFatal(ErrorNumber::BadFileNameOrNumber,
+               operationOn(mode == FileMode::Input ? "reading" : "writing", number));
+  }
   return *files_[number - 1];
 }
 
 void SequentialFiles::Open(const std::string& name, FileMode mode, int number) {
+  try {
+    openFile(name, mode, number);
+  } catch (FatalError& error) {
+    error.setOperation(
+        operationOn("opening", name, mode == FileMode::Input ? " for input" : " for output"));
+    throw;
+  }
+}
+
+void SequentialFiles::openFile(const std::string& name, FileMode mode, int number) {
   if (number < 1 || number > kFileNumbers) raiseFatal(ErrorNumber::BadFileNameOrNumber);
   if (files_[number - 1]) raiseFatal(ErrorNumber::FileAlreadyOpen);
   const fs::path path = resolve(name);
   std::error_code error;
   const bool isDirectory = fs::is_directory(path, error);
-  OpenFile file{mode, path, {}, 0};
+  OpenFile file{mode, name, path, {}, 0};
   if (mode == FileMode::Input) {
     if (isDirectory) raiseFatal(ErrorNumber::PathFileAccessError);
     if (!fs::exists(path, error)) raiseFatal(ErrorNumber::FileNotFound);
@@ -148,7 +193,10 @@ void SequentialFiles::Print(int number, const std::string& text) {
 
 void SequentialFiles::Print(int number, Integer value) {
   const int plain = value;
-  Print(number, (plain < 0 ? "" : " ") + CStr(plain) + " ");
+  std::string text = plain < 0 ? "" : " ";
+  text += CStr(plain);
+  text += ' ';
+  Print(number, text);
 }
 
 std::string SequentialFiles::readField(OpenFile& file, bool numeric) {
@@ -188,16 +236,37 @@ std::string SequentialFiles::readField(OpenFile& file, bool numeric) {
 }
 
 void SequentialFiles::Input(int number, std::string& field) {
-  field = readField(slot(number, FileMode::Input), false);
+  OpenFile& file = slot(number, FileMode::Input);
+  try {
+    field = readField(file, false);
+  } catch (FatalError& error) {
+    error.setOperation(operationOn("reading", file.name));
+    throw;
+  }
 }
 
 void SequentialFiles::Input(int number, Integer& value) {
-  const std::string field = readField(slot(number, FileMode::Input), true);
-  value = field.empty() ? Integer(0) : StrictInteger(field);
+  OpenFile& file = slot(number, FileMode::Input);
+  try {
+    const std::string field = readField(file, true);
+    value = field.empty() ? Integer(0) : StrictInteger(field);
+  } catch (FatalError& error) {
+    error.setOperation(operationOn("reading", file.name));
+    throw;
+  }
 }
 
 void SequentialFiles::flush(OpenFile& file) {
   if (file.mode != FileMode::Output) return;
+  try {
+    write(file);
+  } catch (FatalError& error) {
+    error.setOperation(operationOn("writing", file.name));
+    throw;
+  }
+}
+
+void SequentialFiles::write(const OpenFile& file) {
   errno = 0;
   std::ofstream out(file.path, std::ios::binary | std::ios::trunc);
   if (!out) raiseForErrno(errno == 0 ? EIO : errno);
@@ -207,7 +276,8 @@ void SequentialFiles::flush(OpenFile& file) {
 }
 
 void SequentialFiles::Close(int number) {
-  if (number < 1 || number > kFileNumbers) raiseFatal(ErrorNumber::BadFileNameOrNumber);
+  if (number < 1 || number > kFileNumbers)
+    raiseFatal(ErrorNumber::BadFileNameOrNumber, operationOn("closing", number));
   std::optional<OpenFile> file = std::move(files_[number - 1]);
   files_[number - 1].reset();
   if (file) flush(*file);
@@ -219,11 +289,16 @@ void SequentialFiles::CloseAll() {
 }
 
 void SequentialFiles::Kill(const std::string& name) {
-  const fs::path path = resolve(name);
-  std::error_code error;
-  if (fs::is_directory(path, error) || !fs::exists(path, error))
-    raiseFatal(ErrorNumber::FileNotFound);
-  if (!fs::remove(path, error)) raiseForErrno(error.value());
+  try {
+    const fs::path path = resolve(name);
+    std::error_code error;
+    if (fs::is_directory(path, error) || !fs::exists(path, error))
+      raiseFatal(ErrorNumber::FileNotFound);
+    if (!fs::remove(path, error)) raiseForErrno(error.value());
+  } catch (FatalError& error) {
+    error.setOperation(operationOn("deleting", name));
+    throw;
+  }
 }
 
 std::string SequentialFiles::Dir(const std::string& name) const {

@@ -46,6 +46,7 @@ class SequentialFiles {
  private:
   struct OpenFile {
     FileMode mode;
+    std::string name;  // as the program gave it, for the report of an error
     std::filesystem::path path;
     std::string content;  // the whole file for input, what was printed for output
     std::size_t position = 0;
@@ -55,9 +56,11 @@ class SequentialFiles {
   // leads outside it, 76 for one with a folder, 52 for one the platform can't use.
   std::filesystem::path resolve(const std::string& name) const;
   bool isInside(const std::filesystem::path& path) const;
+  void openFile(const std::string& name, FileMode mode, int number);
   OpenFile& slot(int number, FileMode mode);
   std::string readField(OpenFile& file, bool numeric);
   void flush(OpenFile& file);
+  void write(const OpenFile& file);
 
   // The working directory held open from the first probe of Dir on, so that a
   // probe looks up one name instead of the whole path.

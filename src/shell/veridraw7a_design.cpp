@@ -14,7 +14,7 @@ FormDesign veridraw7aDesign() {
     pictureButton("Btn1Lotto", {5880, 5520, 1575, 735}, "lotto").tip("PRESS ENTER").inert(),
     pictureButton("Btn2Strike", {8640, 5520, 1575, 735}, "strike").tip("PRESS ENTER").inert(),
     pictureButton("BtnPowerBall", {6840, 4320, 2535, 735}, "powerball").tip("PRESS ENTER").inert(),
-    pictureButton("CmdNotice", {360, 7920, 4815, 375}, "notice").tip("Veridraw is free to use and to share").inert(),
+    pictureButton("CmdNotice", {360, 7920, 4815, 375}, "notice").tip("Veridraw is free software under the GNU GPL, version 3 or later").inert(),
     label("Label2", {4860, 480, 6615, 855}, "Lotto Veridraw").font(36, true),
     label("Label5", {5880, 3720, 4215, 375}, "Check your Lotto tickets for prizes").font(12),
     label("Label1", {1020, 1680, 2775, 375}, "Lotto Veridraw").font(12, true),

@@ -23,8 +23,8 @@ constexpr const char* kDisclaimer =
     "over the data being entered. To all intents and purposes this program has been thoroughly "
     "tested and performs to the specifications the author set out to achieve.";
 constexpr const char* kUseNotice =
-    "Veridraw may be used and passed on freely. Always check your tickets against the official "
-    "results as well.";
+    "Veridraw is free software: you may share and change it under the GNU General Public "
+    "License, version 3 or later. Always check your tickets against the official results.";
 constexpr const char* kCopyNotice = "Keep a copy of your draw and ticket files.";
 constexpr const char* kFiles =
     "Draws and tickets are kept as small text files in the folder where Veridraw runs: the file "

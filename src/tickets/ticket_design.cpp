@@ -77,7 +77,7 @@ void insertAfter(std::vector<ControlDesign>& controls, std::string_view name,
 
 void addNotice(std::vector<ControlDesign>& controls) {
   controls.push_back(pictureButton("CmdNotice", {120, 8160, 2655, 375}, "notice")
-                         .tip("Veridraw is free to use and to share"));
+                         .tip("Veridraw is free software under the GNU GPL, version 3 or later"));
 }
 
 void addGrid(std::vector<ControlDesign>& controls, const ControlDesign& cell, int lines,

@@ -87,7 +87,7 @@ class AccessibilityTest : public QObject, public ScreenChecks {
     QCOMPARE(object("Btn1Lotto").text(QAccessible::Description), "PRESS ENTER");
     expect("OLE1", QAccessible::Graphic, "Lotto: Six numbers from 1 to 40 and a Bonus number.");
     expect("OLE7", QAccessible::Graphic, "Veridraw mark");
-    expect("CmdNotice", QAccessible::Button, "Veridraw is free to use and to share");
+    expect("CmdNotice", QAccessible::Button, "Veridraw is free software under the GNU GPL, version 3 or later");
     // The sample ticket: its cells by line and place, its letters by themselves.
     expect("LineA", QAccessible::EditableText, "Line B, number 3", 9);
     QCOMPARE(object("LineA", 9).text(QAccessible::Value), "14");

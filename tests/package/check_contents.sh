@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
 # Checks the unpacked .deb: every file where a Debian desktop looks for it, the
 # pieces naming each other rightly, and the control fields.
-#   check_contents.sh DEB_DIR ROOT DATA_DIR VERSION extra=EXTRA_DEPENDS
+#   check_contents.sh DEB_DIR ROOT DATA_DIR VERSION extra=EXTRA_DEPENDS screenshots=URL
 set -uo pipefail
-deb_dir=$1 root=$2 data=$3 version=$4 extra=${5#extra=}
+deb_dir=$1 root=$2 data=$3 version=$4 extra=${5#extra=} screenshots=${6#screenshots=}
 id=org.veridraw.Veridraw
 source "$(dirname "$0")/checks.sh"
 need_file() { [ -f "$root/$1" ] || fail "missing /$1"; }
@@ -83,8 +83,37 @@ grep -q "<launchable type=\"desktop-id\">$id.desktop</launchable>" "$root/usr/sh
   fail "the metadata doesn't launch $id.desktop"
 grep -q "<release version=\"$version\"" "$root/usr/share/metainfo/$id.metainfo.xml" ||
   fail "the metadata has no release $version"
-[ "$(grep -Ec '<screenshot( |>)' "$root/usr/share/metainfo/$id.metainfo.xml")" -eq 3 ] ||
-  fail "the metadata lacks the three screenshots"
+# The screenshots are listed when the folder where they are published is
+# given, and not otherwise.
+wanted_screenshots=3
+[ -n "$screenshots" ] || wanted_screenshots=0
+[ "$(grep -Ec '<screenshot( |>)' "$root/usr/share/metainfo/$id.metainfo.xml")" -eq $wanted_screenshots ] ||
+  fail "the metadata doesn't list $wanted_screenshots screenshots"
+# No address that can't resolve: no host under a name reserved for examples
+# and tests (RFC 2606, RFC 6761).
+for file in "usr/share/metainfo/$id.metainfo.xml" "usr/share/applications/$id.desktop" \
+  usr/share/doc/veridraw/copyright; do
+  hosts=$(grep -Eo '[a-z]+://[^/"<> ]+' "$root/$file" | sed 's|.*://||')
+  for host in $hosts; do
+    grep -Eq '(^|\.)(invalid|example|test|localhost)$|^example\.(com|org|net)$' <<<"$host" &&
+      fail "/$file names a host that can't resolve: $host"
+  done
+done
+
+# The licence: the GNU GPL, version 3 or later, said alike by the metadata and
+# the machine-readable copyright file, which points to Debian's copy of the
+# text.
+copyright="$root/usr/share/doc/veridraw/copyright"
+grep -q '<project_license>GPL-3.0-or-later</project_license>' "$root/usr/share/metainfo/$id.metainfo.xml" ||
+  fail "the metadata's project_license is not GPL-3.0-or-later"
+[ "$(head -n1 "$copyright")" = "Format: https://www.debian.org/doc/packaging-manuals/copyright-format/1.0/" ] ||
+  fail "the copyright file is not in the machine-readable format"
+licences=$(sed -n 's/^License: *//p' "$copyright" | sort -u)
+[ "$licences" = GPL-3.0-or-later ] || fail "the copyright file's licences: $licences"
+[ "$(grep -c '^Files: \*$' "$copyright")" -eq 1 ] || fail "the copyright file doesn't cover every file"
+grep -q '/usr/share/common-licenses/GPL-3' "$copyright" || fail "the copyright file doesn't point to the GPL's text"
+grep -qi 'rights are reserved\|proprietary' "$copyright" "$root/usr/share/metainfo/$id.metainfo.xml" &&
+  fail "a licence text still reserves all rights"
 
 # Control fields.
 deb=$(echo "$deb_dir"/*.deb)

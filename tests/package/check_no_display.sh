@@ -39,5 +39,9 @@ case_ x_server_gone DISPLAY=":$display"
 case_ xcb_asked QT_QPA_PLATFORM=xcb DISPLAY=":$display"
 # A Wayland display that nobody serves, on a session that says it is Wayland.
 case_ wayland_gone WAYLAND_DISPLAY="veridraw-none-$display" XDG_SESSION_TYPE=wayland
+# Wayland asked for where there is no runtime folder to find its socket in:
+# the Wayland library's own complaint doesn't stand above the line.
+case_ wayland_without_runtime_folder -u XDG_RUNTIME_DIR QT_QPA_PLATFORM=wayland
+case_ wayland_egl_without_runtime_folder -u XDG_RUNTIME_DIR QT_QPA_PLATFORM=wayland-egl
 
 finish

@@ -189,7 +189,7 @@ INSTANTIATE_TEST_SUITE_P(
                       NameCase{"none/../../x", 75}, NameCase{"C:/x", 75},
                       NameCase{"\\server\\x", 75}, NameCase{".", 52},
                       NameCase{std::string(256, '7'), 52},
-                      NameCase{"1" + std::string(299, 'a'), 52}, NameCase{"a<b", 52},
+                      NameCase{std::string("1").append(299, 'a'), 52}, NameCase{"a<b", 52},
                       NameCase{"a>b", 52}, NameCase{"a:b", 52}, NameCase{"a\"b", 52},
                       NameCase{"a|b", 52}, NameCase{"a?b", 52}, NameCase{"a*b", 52},
                       NameCase{"a\x01z", 52}, NameCase{"a\tb", 52}, NameCase{"a\nb", 52},

@@ -14,7 +14,8 @@ namespace {
 
 // Cell k holds the number k as a typed cell does: two digits and a blank.
 std::string typedCell(int k) {
-  return (k < 10 ? "0" : "") + CStr(k) + " ";
+  std::string cell = k < 10 ? "0" : "";
+  return (cell += CStr(k)) += ' ';
 }
 
 class TicketStore : public ::testing::Test {

@@ -20,7 +20,8 @@ const std::array<std::string, 5> kLineOfRow = {"01020304", "15072201", "01150231
                                                "07152231"};
 
 std::string pair(int number) {
-  return (number < 10 ? "0" : "") + CStr(number);
+  std::string digits = number < 10 ? "0" : "";
+  return digits += CStr(number);
 }
 
 std::string packed(const Line& line) {

@@ -37,7 +37,8 @@ TEST_F(StrikeEntry, TwoDigitsFrom01To40PassAndAllOthersAreRefusedAtTheSecondKey)
   click("BtnCheckNewTicket");
   click("BtnLineA");
   for (int number = 0; number <= 99; ++number) {
-    const std::string keys = (number < 10 ? "0" : "") + CStr(number);
+    std::string keys = number < 10 ? "0" : "";
+    keys += CStr(number);
     SCOPED_TRACE(keys);
     const std::vector<std::string> raised = typeNumber(keys);
     if (number >= 1 && number <= 40) {

@@ -10,6 +10,7 @@ namespace veridraw::testing {
 struct FatalOutcome {
   int number = 0;  // 0 when the logic ran to its end
   std::string text;
+  std::string operation;  // what the files were doing, if anything
 };
 
 template <class Action>
@@ -17,7 +18,7 @@ FatalOutcome fatalOf(Action&& action) {
   try {
     action();
   } catch (const FatalError& error) {
-    return {error.number(), error.text()};
+    return {error.number(), error.text(), error.operation()};
   }
   return {};
 }

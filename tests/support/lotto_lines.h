@@ -19,7 +19,8 @@ inline constexpr int kBonus = 12;
 inline const std::vector<int> kMisses = {1, 2, 4, 5, 6, 7};
 
 inline std::string pair(int number) {
-  return (number < 10 ? "0" : "") + CStr(number);
+  std::string digits = number < 10 ? "0" : "";
+  return digits += CStr(number);
 }
 
 // A line of six ascending numbers: `matches` main numbers, the bonus if asked.

@@ -24,10 +24,14 @@ class ScreenFixture : public ::testing::Test {
   // A ticket file as the screens write one: the count of lines as Print writes
   // an integer, the name, and a blank before the packed pairs of the lines.
   static std::string ticketFile(const std::string& name, const std::vector<std::string>& lines) {
-    std::string pairs;
+    std::string file = " ";
+    file += std::to_string(lines.size());
+    file += " \r\n";
+    file += name;
+    file += "\r\n ";
     for (const std::string& line : lines)
-      pairs += line;
-    return " " + std::to_string(lines.size()) + " \r\n" + name + "\r\n " + pairs + "\r\n";
+      file += line;
+    return file += "\r\n";
   }
 
   Form& screen() const { return app->form(formName_); }

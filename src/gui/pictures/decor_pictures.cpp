@@ -15,8 +15,8 @@ const QColor kNoticeInk(20, 40, 110);
 
 // The owner's notice, from the whole sentence to the fewest words: a narrow
 // button shows the longest that it can show legibly.
-constexpr std::array kNotices{"Veridraw is free to use and to share", "Free to use and to share",
-                              "Free to share"};
+constexpr std::array kNotices{"Veridraw is free software under the GNU GPL, version 3 or later",
+                              "Free software under the GNU GPL 3+", "Free software, GNU GPL"};
 constexpr int kNoticePixels = 13;
 constexpr int kLegiblePixels = 10;
 const QColor kBanknote(120, 178, 110);

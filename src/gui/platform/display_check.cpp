@@ -3,11 +3,14 @@
 #include <sys/stat.h>
 #include <unistd.h>
 #include <QByteArray>
+#include <QRegularExpression>
 #include <QString>
 #include <QtGlobal>
 #include <cstdio>
 #include <cstdlib>
+#include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace veridraw::gui {
@@ -21,8 +24,8 @@ constexpr char kNoDisplayLine[] =
     "veridraw: no graphical display found; run it on a desktop, or try veridraw-script for the "
     "scripted runner\n";
 
-[[noreturn]] void noDisplay() {
-  std::fputs(kNoDisplayLine, stderr);
+[[noreturn]] void noDisplay(const std::string& line = kNoDisplayLine) {
+  std::fputs(line.c_str(), stderr);
   std::fflush(stderr);
   // _exit, not exit: Qt is half set up, and no destructor of it may run.
   _exit(kNoDisplay);
@@ -36,9 +39,12 @@ bool isSet(const char* name) {
 // A Wayland display whose socket is there. Wayland's sockets always stand in
 // the file system, so a missing one is known before connecting; the Wayland
 // library would otherwise print its own complaint on the way to Qt's failure.
-bool waylandSocketThere() {
+// `defaultName` is the display that the Wayland library connects to when
+// WAYLAND_DISPLAY is unset, if it is to be counted.
+bool waylandSocketThere(const char* defaultName = nullptr) {
   const char* display = std::getenv("WAYLAND_DISPLAY");
-  if (display == nullptr || *display == '\0') return false;
+  if (display == nullptr || *display == '\0') display = defaultName;
+  if (display == nullptr) return false;
   std::string socket = display;
   if (socket.front() != '/') {
     const char* runtime = std::getenv("XDG_RUNTIME_DIR");
@@ -55,6 +61,22 @@ bool waylandSocketThere() {
 bool noDisplayInSight() {
   return !isSet("QT_QPA_PLATFORM") && !isSet("DISPLAY") && !waylandSocketThere();
 }
+
+// The platform asked for is Wayland alone (no other platform named after it
+// to fall back on), and its socket isn't there: the Wayland library would
+// print its own complaint, such as about XDG_RUNTIME_DIR, above the line.
+bool onlyWaylandAndNoSocket() {
+  const char* platform = std::getenv("QT_QPA_PLATFORM");
+  if (platform == nullptr) return false;
+  const std::string_view asked = platform;
+  const bool wayland = asked.starts_with("wayland") && asked.find(';') == std::string_view::npos;
+  return wayland && !waylandSocketThere("wayland-0");
+}
+
+// Qt's messages while it failed to start tell a platform that isn't installed
+// ("Could not find the Qt platform plugin") from one that can't connect. The
+// line for the first names the platform, and the installed ones that Qt lists.
+std::optional<std::string> missingPlatformLine(const QString& fatalMessage);
 
 // While Qt connects to the display, its messages are held back: if the
 // platform plugin can't connect, Qt ends with a fatal message whose advice
@@ -82,7 +104,8 @@ const char* orNull(const QByteArray& text) {
 }
 
 void startUpMessages(QtMsgType type, const QMessageLogContext& context, const QString& message) {
-  if (connecting && type == QtFatalMsg) noDisplay();
+  if (connecting && type == QtFatalMsg)
+    noDisplay(missingPlatformLine(message).value_or(kNoDisplayLine));
   if (connecting)
     heldMessages.push_back({type, QByteArray(context.file), context.line,
                             QByteArray(context.function), QByteArray(context.category), message});
@@ -90,10 +113,27 @@ void startUpMessages(QtMsgType type, const QMessageLogContext& context, const QS
     qtHandler(type, context, message);
 }
 
+std::optional<std::string> missingPlatformLine(const QString& fatalMessage) {
+  static const QRegularExpression notFound(
+      QStringLiteral("Could not find the Qt platform plugin \"([^\"]*)\""));
+  for (const HeldMessage& held : heldMessages) {
+    const QRegularExpressionMatch match = notFound.match(held.text);
+    if (!match.hasMatch()) continue;
+    static const QRegularExpression available(
+        QStringLiteral("Available platform plugins are: ([^\n]*?)\\.?\n*$"));
+    const QRegularExpressionMatch installed = available.match(fatalMessage);
+    std::string line = "veridraw: the graphical platform \"" + match.captured(1).toStdString() +
+                       "\" named by QT_QPA_PLATFORM is not installed";
+    if (installed.hasMatch()) line += "; installed: " + installed.captured(1).toStdString();
+    return line + "\n";
+  }
+  return std::nullopt;
+}
+
 }  // namespace
 
 void exitIfNoDisplayInSight() {
-  if (noDisplayInSight()) noDisplay();
+  if (noDisplayInSight() || onlyWaylandAndNoSocket()) noDisplay();
 }
 
 void holdMessagesWhileConnecting() {

@@ -1,5 +1,8 @@
 #include "gui/window/desktop.h"
 
+#include <cstdio>
+#include <string>
+
 #include "gui/accessibility/accessibility.h"
 #include "gui/dialogs/desktop_dialogs.h"
 #include "gui/window/form_window.h"
@@ -13,6 +16,16 @@ void discard(FormWindow* window) {
   if (window == nullptr) return;
   window->hide();
   window->deleteLater();
+}
+
+// The box of a fatal error says only what the classic runtime said; the line
+// on standard error names the operation, the file and the folder too, for the
+// user who started the program from a terminal and for a bug report. It goes
+// out before the box, so that it is there even if the box is never answered.
+void reportOnStandardError(const FatalError& error, const std::filesystem::path& folder) {
+  const std::string line = "veridraw: " + describeFatalError(error, folder) + "\n";
+  std::fputs(line.c_str(), stderr);
+  std::fflush(stderr);
 }
 
 }  // namespace
@@ -66,6 +79,7 @@ void Desktop::refresh() {
   if (finished_) return;
   switch (application_.state()) {
     case Application::State::Fatal:
+      reportOnStandardError(*application_.fatalError(), application_.files().workingDirectory());
       showRunTimeError(window_, *application_.fatalError());
       return finish(1);
     case Application::State::Ended:
