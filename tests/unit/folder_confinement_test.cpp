@@ -70,6 +70,15 @@ class Confinement : public ::testing::Test {
     return outcome;
   }
 
+  // Puts a link to `target` in place of the file once Open or Kill has
+  // checked its name, as another program could at that moment.
+  void swapForALinkAfterTheNameCheck(const fs::path& target) {
+    files.setNameCheckedHook([this, target](const std::string& name) {
+      fs::remove(work() / name);
+      link(target, name);
+    });
+  }
+
   void save(const std::string& name, const std::string& line) {
     files.Open(name, FileMode::Output, 1);
     files.Print(1, line);
@@ -136,20 +145,14 @@ TEST_F(Confinement, SavingADrawOverADanglingLinkWritesNothingOutside) {
 
 TEST_F(Confinement, AFileSwappedForALinkAfterTheNameCheckIsNotWrittenThrough) {
   dir.write("work/Lotto # 7", "ticket\r\n");
-  files.setNameCheckedHook([&](const std::string& name) {
-    fs::remove(work() / name);
-    link(outside("705"), name);
-  });
+  swapForALinkAfterTheNameCheck(outside("705"));
   EXPECT_EQ(fatalNumberOf([&] { files.Open("Lotto # 7", FileMode::Output, 1); }), 75);
   EXPECT_EQ(dir.read("705"), kOutside);
 }
 
 TEST_F(Confinement, AFileSwappedForADanglingLinkAfterTheNameCheckCreatesNothing) {
   dir.write("work/12", "12\r\n");
-  files.setNameCheckedHook([&](const std::string& name) {
-    fs::remove(work() / name);
-    link(outside(name), name);
-  });
+  swapForALinkAfterTheNameCheck(outside("12"));
   EXPECT_EQ(fatalNumberOf([&] { files.Open("12", FileMode::Output, 1); }), 75);
   EXPECT_EQ(fatalNumberOf([&] { files.Open("12", FileMode::Input, 1); }), 75);
   EXPECT_FALSE(dir.exists("12"));
@@ -157,10 +160,7 @@ TEST_F(Confinement, AFileSwappedForADanglingLinkAfterTheNameCheckCreatesNothing)
 
 TEST_F(Confinement, AFileSwappedForALinkAfterTheNameCheckIsNotDeletedThrough) {
   dir.write("work/Lotto # 7", "ticket\r\n");
-  files.setNameCheckedHook([&](const std::string& name) {
-    fs::remove(work() / name);
-    link(outside("705"), name);
-  });
+  swapForALinkAfterTheNameCheck(outside("705"));
   EXPECT_EQ(fatalNumberOf([&] { files.Kill("Lotto # 7"); }), 75);
   EXPECT_EQ(dir.read("705"), kOutside);
 }
