@@ -2,9 +2,9 @@
 // opened, probed and deleted. Each operation takes a plain name (no separator:
 // the sequential files check that first) and is carried out relative to the
 // folder held open, in a way that can't leave it: no link, whether it was there
-// before or put there while the program works, and no folder moved in between
-// carries an operation outside. A link that stays inside the folder is followed
-// as the system would follow it.
+// before or put there while the program works, carries an operation outside,
+// and a ".." never climbs above the folder. A link that stays inside the folder
+// is followed as the system would follow it.
 //
 // The operations report what stopped them as a Refusal; the sequential files
 // turn that into the classic error number of the operation. Each platform has
