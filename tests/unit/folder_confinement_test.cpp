@@ -295,24 +295,24 @@ int asPlainUser(const std::function<int()>& check) {
   return WEXITSTATUS(status);
 }
 
-class UnsearchableFolder : public Confinement {
+class FolderThatMayNotBeEntered : public Confinement {
  protected:
-  UnsearchableFolder() {
+  FolderThatMayNotBeEntered() {
     dir.write("work/705", "705\r\n");
     fs::create_directory(work() / "locked");
     dir.write("work/locked/705", "705\r\n");
     // The test's folder may be entered by anyone; the working folder by nobody
-    // but root (no search right), and so with "locked" in it.
+    // but root (no right to enter it), and so with "locked" in it.
     fs::permissions(dir.path(), fs::perms::owner_all | fs::perms::others_exec);
     fs::permissions(work() / "locked", fs::perms::owner_read | fs::perms::owner_write);
   }
-  ~UnsearchableFolder() override {
+  ~FolderThatMayNotBeEntered() override {
     fs::permissions(work(), fs::perms::owner_all);
     fs::permissions(work() / "locked", fs::perms::owner_all);
   }
 };
 
-TEST_F(UnsearchableFolder, ReadingWritingAndDeletingInItAreFatal70) {
+TEST_F(FolderThatMayNotBeEntered, ReadingWritingAndDeletingInItAreFatal70) {
   fs::permissions(work(), fs::perms::owner_read | fs::perms::owner_write);
   const auto inAFreshProgram = [&](const std::function<void(SequentialFiles&)>& action) {
     return asPlainUser([&] {
@@ -330,7 +330,7 @@ TEST_F(UnsearchableFolder, ReadingWritingAndDeletingInItAreFatal70) {
   EXPECT_FALSE(dir.exists("work/new"));
 }
 
-TEST_F(UnsearchableFolder, AFolderOnTheWayOfALinkIsFatal70) {
+TEST_F(FolderThatMayNotBeEntered, AFolderOnTheWayOfALinkIsFatal70) {
   fs::permissions(work(), fs::perms::owner_all | fs::perms::others_read | fs::perms::others_exec);
   link("locked/705", "12");
   const int input = asPlainUser([&] {

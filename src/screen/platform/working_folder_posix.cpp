@@ -29,11 +29,10 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// Folders are opened only to look names up in them.
+// Folders are opened only to look names up in them: where the system has no
+// way to open a folder for that alone, they are opened for reading.
 #if defined(O_PATH)
 constexpr int kLookUpOnly = O_PATH;
-#elif defined(O_SEARCH)
-constexpr int kLookUpOnly = O_SEARCH;
 #else
 constexpr int kLookUpOnly = O_RDONLY;
 #endif
