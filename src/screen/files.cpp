@@ -1,16 +1,6 @@
 #include "screen/files.h"
 
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
-#include <algorithm>
-#include <array>
-#include <cerrno>
-#include <fstream>
-#include <iterator>
 #include <string_view>
-#include <system_error>
 
 #include "screen/fatal.h"
 #include "screen/strings.h"
@@ -18,6 +8,7 @@
 namespace veridraw {
 
 namespace fs = std::filesystem;
+using platform::Refusal;
 
 namespace {
 
@@ -26,16 +17,33 @@ bool isForbiddenInName(unsigned char c) {
   return c < 32 || c == '<' || c == '>' || c == ':' || c == '"' || c == '|' || c == '?' || c == '*';
 }
 
-[[noreturn]] void raiseForErrno(int error) {
-  switch (error) {
-    case ENOENT:
-    case ENOTDIR:
-      raiseFatal(ErrorNumber::PathNotFound);
-    case EACCES:
-    case EPERM:
-    case EROFS:
+// The classic number of a refusal where a file is read or deleted: a file that
+// isn't there is "File not found". `forAFolder` is the number of a name that
+// leads to a folder.
+[[noreturn]] void raiseForFinding(Refusal refusal, ErrorNumber forAFolder) {
+  switch (refusal) {
+    case Refusal::Missing:
+    case Refusal::TooLong:
+      raiseFatal(ErrorNumber::FileNotFound);
+    case Refusal::Denied:
       raiseFatal(ErrorNumber::PermissionDenied);
-    case ENAMETOOLONG:
+    case Refusal::Folder:
+      raiseFatal(forAFolder);
+    default:
+      raiseFatal(ErrorNumber::PathFileAccessError);
+  }
+}
+
+// The classic number of a refusal where a file is created or written: a
+// folder on the way that isn't there is "Path not found". A file that has a
+// second name, which may be outside, is refused like a name that leads out.
+[[noreturn]] void raiseForWriting(Refusal refusal) {
+  switch (refusal) {
+    case Refusal::Missing:
+      raiseFatal(ErrorNumber::PathNotFound);
+    case Refusal::Denied:
+      raiseFatal(ErrorNumber::PermissionDenied);
+    case Refusal::TooLong:
       raiseFatal(ErrorNumber::BadFileNameOrNumber);
     default:
       raiseFatal(ErrorNumber::PathFileAccessError);
@@ -106,7 +114,7 @@ std::string operationOn(std::string_view verb, int number) {
 }  // namespace
 
 SequentialFiles::SequentialFiles(fs::path workingDirectory)
-    : directory_(std::move(workingDirectory)) {}
+    : folder_(std::move(workingDirectory)) {}
 
 SequentialFiles::~SequentialFiles() {
   try {
@@ -116,7 +124,7 @@ SequentialFiles::~SequentialFiles() {
   }
 }
 
-fs::path SequentialFiles::resolve(const std::string& name) const {
+void SequentialFiles::checkName(const std::string& name) const {
   if (name.empty() || name == ".") raiseFatal(ErrorNumber::BadFileNameOrNumber);
   // A name that leads out of the working directory is refused before anything
   // is touched, whether or not the folders on its way exist.
@@ -127,19 +135,8 @@ fs::path SequentialFiles::resolve(const std::string& name) const {
       raiseFatal(ErrorNumber::BadFileNameOrNumber);
   // Too long a name is a bad name whether it is to be written or read.
   if (name.size() > kLongestName) raiseFatal(ErrorNumber::BadFileNameOrNumber);
-  fs::path path = directory_ / name;
-  // A link left in the working directory doesn't lead out of it either.
-  std::error_code error;
-  if (fs::is_symlink(path, error) && !isInside(fs::weakly_canonical(path, error)))
-    raiseFatal(ErrorNumber::PathFileAccessError);
-  return path;
-}
-
-bool SequentialFiles::isInside(const fs::path& path) const {
-  std::error_code error;
-  const fs::path home = fs::weakly_canonical(directory_, error);
-  const fs::path relative = path.lexically_relative(home);
-  return !relative.empty() && *relative.begin() != "..";
+  // A link in the working directory that leads out of it is refused by the
+  // folder itself, as it opens, probes or deletes the name.
 }
 
 SequentialFiles::OpenFile& SequentialFiles::slot(int number, FileMode mode) {
@@ -164,23 +161,15 @@ void SequentialFiles::Open(const std::string& name, FileMode mode, int number) {
 void SequentialFiles::openFile(const std::string& name, FileMode mode, int number) {
   if (number < 1 || number > kFileNumbers) raiseFatal(ErrorNumber::BadFileNameOrNumber);
   if (files_[number - 1]) raiseFatal(ErrorNumber::FileAlreadyOpen);
-  const fs::path path = resolve(name);
-  std::error_code error;
-  const bool isDirectory = fs::is_directory(path, error);
-  OpenFile file{mode, name, path, {}, 0};
+  checkName(name);
+  if (nameChecked_) nameChecked_(name);
+  OpenFile file{mode, name, {}, {}, 0};
   if (mode == FileMode::Input) {
-    if (isDirectory) raiseFatal(ErrorNumber::PathFileAccessError);
-    if (!fs::exists(path, error)) raiseFatal(ErrorNumber::FileNotFound);
-    errno = 0;
-    std::ifstream in(path, std::ios::binary);
-    if (!in) raiseForErrno(errno == 0 ? EIO : errno);
-    file.content.assign(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
-    if (in.bad()) raiseFatal(ErrorNumber::PathFileAccessError);
+    const Refusal refusal = folder_.read(name, file.content);
+    if (refusal != Refusal::None) raiseForFinding(refusal, ErrorNumber::PathFileAccessError);
   } else {
-    if (isDirectory) raiseFatal(ErrorNumber::PathFileAccessError);
-    errno = 0;
-    std::ofstream out(path, std::ios::binary | std::ios::trunc);
-    if (!out) raiseForErrno(errno == 0 ? EIO : errno);
+    const Refusal refusal = folder_.create(name, file.output);
+    if (refusal != Refusal::None) raiseForWriting(refusal);
   }
   files_[number - 1] = std::move(file);
 }
@@ -266,13 +255,9 @@ void SequentialFiles::flush(OpenFile& file) {
   }
 }
 
-void SequentialFiles::write(const OpenFile& file) {
-  errno = 0;
-  std::ofstream out(file.path, std::ios::binary | std::ios::trunc);
-  if (!out) raiseForErrno(errno == 0 ? EIO : errno);
-  out.write(file.content.data(), static_cast<std::streamsize>(file.content.size()));
-  out.close();
-  if (!out) raiseFatal(ErrorNumber::PathFileAccessError);
+void SequentialFiles::write(OpenFile& file) {
+  const Refusal refusal = file.output.writeWholeAndClose(file.content);
+  if (refusal != Refusal::None) raiseForWriting(refusal);
 }
 
 void SequentialFiles::Close(int number) {
@@ -290,11 +275,10 @@ void SequentialFiles::CloseAll() {
 
 void SequentialFiles::Kill(const std::string& name) {
   try {
-    const fs::path path = resolve(name);
-    std::error_code error;
-    if (fs::is_directory(path, error) || !fs::exists(path, error))
-      raiseFatal(ErrorNumber::FileNotFound);
-    if (!fs::remove(path, error)) raiseForErrno(error.value());
+    checkName(name);
+    if (nameChecked_) nameChecked_(name);
+    const Refusal refusal = folder_.remove(name);
+    if (refusal != Refusal::None) raiseForFinding(refusal, ErrorNumber::FileNotFound);
   } catch (FatalError& error) {
     error.setOperation(operationOn("deleting", name));
     throw;
@@ -305,36 +289,7 @@ std::string SequentialFiles::Dir(const std::string& name) const {
   if (name.empty() || name == "." || name == ".." || name.front() == '.') return "";
   for (const char c : name)
     if (c == '/' || c == '\\' || isForbiddenInName(static_cast<unsigned char>(c))) return "";
-  struct stat status;
-  const int directory = probeDirectory_.descriptor(directory_);
-  if (directory >= 0)
-    return ::fstatat(directory, name.c_str(), &status, 0) == 0 && S_ISREG(status.st_mode) ? name
-                                                                                          : "";
-  // Otherwise the full name is put together in a buffer on the stack: one stat
-  // call and no allocation.
-  const std::string& folder = directory_.native();
-  std::array<char, 4096> path;
-  if (folder.size() + 1 + name.size() + 1 > path.size()) {
-    std::error_code error;
-    return fs::is_regular_file(directory_ / name, error) ? name : "";
-  }
-  char* end = std::copy(folder.begin(), folder.end(), path.data());
-  if (!folder.empty() && folder.back() != '/') *end++ = '/';
-  end = std::copy(name.begin(), name.end(), end);
-  *end = '\0';
-  return ::stat(path.data(), &status) == 0 && S_ISREG(status.st_mode) ? name : "";
-}
-
-// A working directory given relatively is looked up anew at each probe, as the
-// process's current directory stands at that moment.
-int SequentialFiles::ProbeDirectory::descriptor(const fs::path& directory) {
-  if (descriptor_ < 0 && directory.is_absolute())
-    descriptor_ = ::open(directory.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC);
-  return descriptor_;
-}
-
-SequentialFiles::ProbeDirectory::~ProbeDirectory() {
-  if (descriptor_ >= 0) ::close(descriptor_);
+  return folder_.holdsPlainFile(name) ? name : "";
 }
 
 }  // namespace veridraw

@@ -1,14 +1,18 @@
 // Sequential files of the forms runtime: Open for Input or Output under the
 // file numbers 1 to 3, Print, Input, Close, Kill and Dir. Names are taken
-// relative to the working directory, and nothing outside it is reached.
+// relative to the working directory, and nothing outside it is reached: the
+// names are checked here, and the platform's working folder opens, probes and
+// deletes them in a way that can't leave the folder (screen/platform/).
 #pragma once
 
 #include <array>
 #include <filesystem>
+#include <functional>
 #include <optional>
 #include <string>
 
 #include "screen/integer.h"
+#include "screen/platform/working_folder.h"
 
 namespace veridraw {
 
@@ -23,7 +27,9 @@ class SequentialFiles {
   SequentialFiles& operator=(const SequentialFiles&) = delete;
   ~SequentialFiles();
 
-  // Input: a missing file is fatal 53. Output: creates the file or empties it.
+  // Input: a missing file is fatal 53. Output: creates the file or empties it;
+  // the file stays open until Close writes it, so it is the same file then
+  // whatever has become of its name.
   void Open(const std::string& name, FileMode mode, int number);
   // A string's bytes as they stand, then CR LF.
   void Print(int number, const std::string& text);
@@ -41,45 +47,35 @@ class SequentialFiles {
   // The name if a plain file of that name exists, "" otherwise.
   std::string Dir(const std::string& name) const;
 
-  const std::filesystem::path& workingDirectory() const { return directory_; }
+  const std::filesystem::path& workingDirectory() const { return folder_.path(); }
+
+  // A seam for tests: runs when Open or Kill has checked a name and is about
+  // to hand it to the file system, as another program could act at that moment.
+  void setNameCheckedHook(std::function<void(const std::string& name)> hook) {
+    nameChecked_ = std::move(hook);
+  }
 
  private:
   struct OpenFile {
     FileMode mode;
-    std::string name;  // as the program gave it, for the report of an error
-    std::filesystem::path path;
-    std::string content;  // the whole file for input, what was printed for output
+    std::string name;             // as the program gave it, for the report of an error
+    platform::OutputFile output;  // held from Open to Close for output
+    std::string content;          // the whole file for input, what was printed for output
     std::size_t position = 0;
   };
 
-  // The path of a name in the working directory. Fatal 75 for a name that
-  // leads outside it, 76 for one with a folder, 52 for one the platform can't use.
-  std::filesystem::path resolve(const std::string& name) const;
-  bool isInside(const std::filesystem::path& path) const;
+  // Fatal 75 for a name that leads outside the working directory, 76 for one
+  // with a folder, 52 for one the platform can't use; nothing is touched.
+  void checkName(const std::string& name) const;
   void openFile(const std::string& name, FileMode mode, int number);
   OpenFile& slot(int number, FileMode mode);
   std::string readField(OpenFile& file, bool numeric);
   void flush(OpenFile& file);
-  void write(const OpenFile& file);
+  void write(OpenFile& file);
 
-  // The working directory held open from the first probe of Dir on, so that a
-  // probe looks up one name instead of the whole path.
-  class ProbeDirectory {
-   public:
-    ProbeDirectory() = default;
-    ProbeDirectory(const ProbeDirectory&) = delete;
-    ProbeDirectory& operator=(const ProbeDirectory&) = delete;
-    ~ProbeDirectory();
-    // The open directory, or -1 when it can't be held (or is given relatively).
-    int descriptor(const std::filesystem::path& directory);
-
-   private:
-    int descriptor_ = -1;
-  };
-
-  std::filesystem::path directory_;
+  mutable platform::WorkingFolder folder_;
   std::array<std::optional<OpenFile>, kFileNumbers> files_;
-  mutable ProbeDirectory probeDirectory_;
+  std::function<void(const std::string&)> nameChecked_;
 };
 
 }  // namespace veridraw

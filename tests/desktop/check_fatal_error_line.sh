@@ -12,7 +12,7 @@ start_session
 folder=$work/draws
 mkdir -p "$folder"
 printf '1234\r\n' >"$folder/DrawNumber"
-line="veridraw: error 53 (File not found) opening \"1234\" for input in $folder"
+line="veridraw: error 53 (File not found) opening \"1234\" for input in $folder; see veridraw(1), REPAIRING A FOLDER"
 
 (cd "$folder" && exec "$veridraw" >"$work/out" 2>"$work/err") &
 started+=($!)

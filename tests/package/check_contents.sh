@@ -45,7 +45,7 @@ for page in "$root"/usr/share/man/man1/*.gz; do
   [ -z "$target" ] || [ -f "$root/usr/share/man/$target.gz" ] || fail "${page##*/} points to a missing $target"
 done
 zcat "$root/usr/share/man/man1/veridraw.1.gz" | grep -q '^\.TH VERIDRAW 1 ' || fail "veridraw(1) has no title"
-for section in NAME SYNOPSIS DESCRIPTION KEYS FILES "EXIT STATUS"; do
+for section in NAME SYNOPSIS DESCRIPTION KEYS FILES "REPAIRING A FOLDER" "EXIT STATUS"; do
   zcat "$root/usr/share/man/man1/veridraw.1.gz" | grep -q "^\.SH $section\$" ||
     fail "veridraw(1) has no $section section"
 done

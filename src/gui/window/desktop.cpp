@@ -22,8 +22,11 @@ void discard(FormWindow* window) {
 // on standard error names the operation, the file and the folder too, for the
 // user who started the program from a terminal and for a bug report. It goes
 // out before the box, so that it is there even if the box is never answered.
+// An error on a file points to the manual's way of mending the folder.
 void reportOnStandardError(const FatalError& error, const std::filesystem::path& folder) {
-  const std::string line = "veridraw: " + describeFatalError(error, folder) + "\n";
+  std::string line = "veridraw: " + describeFatalError(error, folder);
+  if (!error.operation().empty()) line += "; see veridraw(1), REPAIRING A FOLDER";
+  line += '\n';
   std::fputs(line.c_str(), stderr);
   std::fflush(stderr);
 }
