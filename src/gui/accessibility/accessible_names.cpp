@@ -199,7 +199,7 @@ QString accessKeyShortcut(const Control& control) {
 QString accessibleName(const Control& control) {
   // A picture is named by what it shows; its tool-tip, if any, is read after
   // the name as its description.
-  if (!control.picture().empty() && control.caption().empty())
+  if (control.picture() != Picture::None && control.caption().empty())
     return pictureWords(control.picture());
   switch (control.kind()) {
     case ControlKind::TextBox:

@@ -149,7 +149,7 @@ void paintButton(QPainter& painter, const QRect& area, const ControlLook& look, 
   }
   QRect content = textArea(area, look);
   if (pressed) content.translate(1, 1);
-  if (!look.picture.empty()) paintPicture(painter, content.adjusted(1, 1, -1, -1), look.picture);
+  if (look.picture != Picture::None) paintPicture(painter, content.adjusted(1, 1, -1, -1), look.picture);
   if (!look.text.isEmpty()) drawCaption(painter, content, look, cache);
   if (look.focused) {
     const int inset = kFocusInset - kBevel;

@@ -16,13 +16,13 @@ namespace {
 using Painter = void (*)(QPainter&, const QRectF&);
 
 // A drawing, and what it shows in a few words for those who can't see it.
-struct Picture {
+struct Drawing {
   std::string_view name;
   Painter paint;
   const char* words;
 };
 
-constexpr std::array<Picture, 11> kPictures{{
+constexpr std::array<Drawing, 11> kDrawings{{
     {"lotto", paintLotto, "Lotto"},
     {"strike", paintStrike, "Strike"},
     {"powerball", paintPowerBall, "PowerBall"},
@@ -37,32 +37,34 @@ constexpr std::array<Picture, 11> kPictures{{
     {"strike-ticket", paintTicketSlip, "Strike ticket"},
 }};
 
-const Picture* pictureNamed(std::string_view name) {
-  for (const Picture& picture : kPictures)
-    if (picture.name == name) return &picture;
+const Drawing* drawingNamed(std::string_view name) {
+  for (const Drawing& drawing : kDrawings)
+    if (drawing.name == name) return &drawing;
   return nullptr;
 }
 
 }  // namespace
 
-void paintPicture(QPainter& painter, const QRectF& area, std::string_view name) {
-  if (area.width() < 1 || area.height() < 1) return;
+void paintPicture(QPainter& painter, const QRectF& area, Picture picture) {
+  if (picture == Picture::None || area.width() < 1 || area.height() < 1) return;
+  const std::string_view name = pictureName(picture);
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setRenderHint(QPainter::TextAntialiasing);
   painter.setClipRect(area);
   if (!paintDocument(painter, area, name)) {
-    const Picture* picture = pictureNamed(name);
-    (picture != nullptr ? picture->paint : paintPlainPanel)(painter, area);
+    const Drawing* drawing = drawingNamed(name);
+    (drawing != nullptr ? drawing->paint : paintPlainPanel)(painter, area);
   }
   painter.restore();
 }
 
-QString pictureWords(std::string_view name) {
+QString pictureWords(Picture picture) {
+  const std::string_view name = pictureName(picture);
   if (const QString words = documentWords(name); !words.isEmpty()) return words;
   if (name == "notice") return noticeWords();
-  const Picture* picture = pictureNamed(name);
-  return picture != nullptr ? QString::fromLatin1(picture->words) : QStringLiteral("Picture");
+  const Drawing* drawing = drawingNamed(name);
+  return drawing != nullptr ? QString::fromLatin1(drawing->words) : QStringLiteral("Picture");
 }
 
 }  // namespace veridraw::gui

@@ -1,17 +1,16 @@
-// The pictures of the forms, drawn in code and chosen by the name that a
-// control's design gives them ("lotto", "strike", "document-notes", ...). A
-// name that isn't known gets a plain decorative panel.
+// The pictures of the forms, drawn in code, as a control's design names them.
 #pragma once
 
 #include <QPainter>
 #include <QRectF>
 #include <QString>
-#include <string_view>
+
+#include "screen/picture.h"
 
 namespace veridraw::gui {
 
-void paintPicture(QPainter& painter, const QRectF& area, std::string_view name);
+void paintPicture(QPainter& painter, const QRectF& area, Picture picture);
 // What the picture shows, in a few words, for a screen reader.
-QString pictureWords(std::string_view name);
+QString pictureWords(Picture picture);
 
 }  // namespace veridraw::gui
