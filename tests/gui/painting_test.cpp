@@ -9,7 +9,7 @@
 
 #include "gui/look/appearance.h"
 #include "gui/look/control_painting.h"
-#include "gui/pictures/pictures.h"
+#include "pictures/pictures.h"
 
 using namespace veridraw;
 using namespace veridraw::gui;

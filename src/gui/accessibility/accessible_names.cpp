@@ -5,7 +5,7 @@
 #include <optional>
 #include <string>
 
-#include "gui/pictures/pictures.h"
+#include "pictures/pictures.h"
 #include "gui/window/windows1252.h"
 #include "screen/form.h"
 

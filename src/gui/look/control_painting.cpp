@@ -4,7 +4,7 @@
 #include <algorithm>
 
 #include "gui/look/appearance.h"
-#include "gui/pictures/pictures.h"
+#include "pictures/pictures.h"
 
 namespace veridraw::gui {
 

@@ -1,13 +1,13 @@
-#include "gui/pictures/pictures.h"
+#include "pictures/pictures.h"
 
 #include <array>
 #include <string_view>
 #include <utility>
 
-#include "gui/pictures/decor_pictures.h"
-#include "gui/pictures/document_pictures.h"
-#include "gui/pictures/game_pictures.h"
-#include "gui/pictures/ticket_pictures.h"
+#include "pictures/decor_pictures.h"
+#include "pictures/document_pictures.h"
+#include "pictures/game_pictures.h"
+#include "pictures/ticket_pictures.h"
 
 namespace veridraw::gui {
 

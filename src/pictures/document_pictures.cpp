@@ -1,11 +1,11 @@
-#include "gui/pictures/document_pictures.h"
+#include "pictures/document_pictures.h"
 
 #include <QFontMetricsF>
 #include <QPolygonF>
 #include <array>
 
 #include "gui/look/appearance.h"
-#include "gui/pictures/picture_parts.h"
+#include "pictures/picture_parts.h"
 
 namespace veridraw::gui {
 

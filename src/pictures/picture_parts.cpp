@@ -1,4 +1,4 @@
-#include "gui/pictures/picture_parts.h"
+#include "pictures/picture_parts.h"
 
 #include <QFontMetricsF>
 #include <QLinearGradient>

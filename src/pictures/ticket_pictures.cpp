@@ -1,10 +1,10 @@
-#include "gui/pictures/ticket_pictures.h"
+#include "pictures/ticket_pictures.h"
 
 #include <QRadialGradient>
 #include <algorithm>
 #include <array>
 
-#include "gui/pictures/picture_parts.h"
+#include "pictures/picture_parts.h"
 
 namespace veridraw::gui {
 

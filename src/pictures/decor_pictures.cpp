@@ -1,10 +1,10 @@
-#include "gui/pictures/decor_pictures.h"
+#include "pictures/decor_pictures.h"
 
 #include <QPainterPath>
 #include <algorithm>
 #include <array>
 
-#include "gui/pictures/picture_parts.h"
+#include "pictures/picture_parts.h"
 
 namespace veridraw::gui {
 

@@ -1,11 +1,11 @@
-#include "gui/pictures/game_pictures.h"
+#include "pictures/game_pictures.h"
 
 #include <QPainterPath>
 #include <QPolygonF>
 #include <algorithm>
 #include <array>
 
-#include "gui/pictures/picture_parts.h"
+#include "pictures/picture_parts.h"
 
 namespace veridraw::gui {
 
