@@ -1,19 +1,18 @@
 // The smaller decoration of the forms: the program's mark, the notice banner,
-// the coins and the money of a win, and a plain panel for any other picture.
+// and the coins and the money of a win.
 #pragma once
 
-#include <QPainter>
-#include <QRectF>
-#include <QString>
+#include <string_view>
 
-namespace veridraw::gui {
+#include "pictures/canvas.h"
 
-void paintMark(QPainter& painter, const QRectF& area);
-void paintNotice(QPainter& painter, const QRectF& area);
+namespace veridraw::pictures {
+
+void drawMark(Canvas& canvas, const Rect& area);
+void drawNotice(Canvas& canvas, const Rect& area);
 // The owner's notice, the whole sentence.
-QString noticeWords();
-void paintCoins(QPainter& painter, const QRectF& area);
-void paintMoney(QPainter& painter, const QRectF& area);
-void paintPlainPanel(QPainter& painter, const QRectF& area);
+std::string_view noticeWords();
+void drawCoins(Canvas& canvas, const Rect& area);
+void drawMoney(Canvas& canvas, const Rect& area);
 
-}  // namespace veridraw::gui
+}  // namespace veridraw::pictures

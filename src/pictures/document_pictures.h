@@ -2,18 +2,18 @@
 // a coloured heading, read by no logic.
 #pragma once
 
-#include <QPainter>
-#include <QRectF>
-#include <QString>
-#include <string_view>
+#include <string>
 
-namespace veridraw::gui {
+#include "pictures/canvas.h"
+#include "screen/picture.h"
 
-// Paints the document of that name ("document-lotto" and so on); returns
-// false, painting nothing, for a name that isn't a document.
-bool paintDocument(QPainter& painter, const QRectF& area, std::string_view name);
-// The heading and the text of the document of that name, as one would read
-// them out; empty for a name that isn't a document.
-QString documentWords(std::string_view name);
+namespace veridraw::pictures {
 
-}  // namespace veridraw::gui
+// Draws the document that the picture is (Picture::DocumentLotto and so on);
+// returns false, drawing nothing, for a picture that isn't a document.
+bool drawDocument(Canvas& canvas, const Rect& area, Picture picture);
+// The heading and the text of the document, as one would read them out;
+// empty for a picture that isn't a document.
+std::string documentWords(Picture picture);
+
+}  // namespace veridraw::pictures

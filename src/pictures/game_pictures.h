@@ -3,13 +3,12 @@
 // PowerBall one big ball with a lightning mark.
 #pragma once
 
-#include <QPainter>
-#include <QRectF>
+#include "pictures/canvas.h"
 
-namespace veridraw::gui {
+namespace veridraw::pictures {
 
-void paintLotto(QPainter& painter, const QRectF& area);
-void paintStrike(QPainter& painter, const QRectF& area);
-void paintPowerBall(QPainter& painter, const QRectF& area);
+void drawLotto(Canvas& canvas, const Rect& area);
+void drawStrike(Canvas& canvas, const Rect& area);
+void drawPowerBall(Canvas& canvas, const Rect& area);
 
-}  // namespace veridraw::gui
+}  // namespace veridraw::pictures

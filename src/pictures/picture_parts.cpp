@@ -1,81 +1,56 @@
 #include "pictures/picture_parts.h"
 
-#include <QFontMetricsF>
-#include <QLinearGradient>
-#include <QPainterPath>
-#include <QRadialGradient>
 #include <algorithm>
-#include <cmath>
 
-#include "gui/look/appearance.h"
-
-namespace veridraw::gui {
+namespace veridraw::pictures {
 
 namespace {
 
 constexpr int kSmallestPixels = 6;
 
-bool darkColour(const QColor& colour) {
+bool darkColour(Colour colour) {
   return colour.lightness() < 150;
 }
 
 }  // namespace
 
-QFont fittedFont(const QString& text, const QSizeF& box, bool bold, int maxPixels) {
-  QFont font = scalableFont(maxPixels, bold);
+Font fittedFont(Canvas& canvas, std::string_view text, Size box, bool bold, int maxPixels) {
   for (int pixels = std::max(kSmallestPixels, maxPixels); pixels >= kSmallestPixels; --pixels) {
-    font.setPixelSize(pixels);
-    const QFontMetricsF metrics(font);
-    if (metrics.horizontalAdvance(text) <= box.width() && metrics.capHeight() <= box.height())
+    const Font font{pixels, bold};
+    if (canvas.textWidth(text, font) <= box.width && canvas.capHeight(font) <= box.height)
       return font;
   }
-  font.setPixelSize(kSmallestPixels);
-  return font;
+  return {kSmallestPixels, bold};
 }
 
-void drawBall(QPainter& painter, const QPointF& centre, qreal radius, const QColor& colour,
-              const QString& number) {
-  painter.save();
-  QRadialGradient shade(centre - QPointF(radius / 3, radius / 3), radius * 1.4);
-  shade.setColorAt(0, colour.lighter(170));
-  shade.setColorAt(0.45, colour);
-  shade.setColorAt(1, colour.darker(170));
-  painter.setPen(QPen(colour.darker(220), std::max<qreal>(0.6, radius / 12)));
-  painter.setBrush(shade);
-  painter.drawEllipse(centre, radius, radius);
-  if (!number.isEmpty()) {
-    const QRectF face(centre.x() - radius * 0.72, centre.y() - radius * 0.62, radius * 1.44,
-                      radius * 1.24);
-    drawFittedText(painter, face, number, darkColour(colour) ? Qt::white : Qt::black, true,
+void drawBall(Canvas& canvas, Point centre, double radius, Colour colour, std::string_view number) {
+  const RadialGradient shade{centre - Point{radius / 3, radius / 3},
+                             radius * 1.4,
+                             {{0, colour.lighter(170)}, {0.45, colour}, {1, colour.darker(170)}}};
+  canvas.ellipse({centre.x - radius, centre.y - radius, 2 * radius, 2 * radius},
+                 Stroke{colour.darker(220), std::max(0.6, radius / 12)}, shade);
+  if (!number.empty()) {
+    const Rect face{centre.x - radius * 0.72, centre.y - radius * 0.62, radius * 1.44,
+                    radius * 1.24};
+    drawFittedText(canvas, face, number, darkColour(colour) ? kWhiteColour : kBlackColour, true,
                    static_cast<int>(radius * 1.15));
   }
-  painter.restore();
 }
 
-void drawFittedText(QPainter& painter, const QRectF& box, const QString& text, const QColor& colour,
+void drawFittedText(Canvas& canvas, const Rect& box, std::string_view text, Colour colour,
                     bool bold, int maxPixels) {
-  const QFont font = fittedFont(text, box.size(), bold, maxPixels);
-  const QFontMetricsF metrics(font);
+  const Font font = fittedFont(canvas, text, box.size(), bold, maxPixels);
   // Centre the capitals, not the whole line with its descenders.
-  const qreal baseline = box.center().y() + metrics.capHeight() / 2;
-  const qreal left = box.center().x() - metrics.horizontalAdvance(text) / 2;
-  painter.save();
-  painter.setFont(font);
-  painter.setPen(colour);
-  painter.drawText(QPointF(left, baseline), text);
-  painter.restore();
+  const double baseline = box.centre().y + canvas.capHeight(font) / 2;
+  const double left = box.centre().x - canvas.textWidth(text, font) / 2;
+  canvas.text({left, baseline}, text, font, colour);
 }
 
-void fillPanel(QPainter& painter, const QRectF& area, const QColor& top, const QColor& bottom) {
-  painter.save();
-  QLinearGradient shade(area.topLeft(), area.bottomLeft());
-  shade.setColorAt(0, top);
-  shade.setColorAt(1, bottom);
-  const qreal corner = std::min(area.width(), area.height()) / 8;
-  painter.setPen(QPen(bottom.darker(160), 1));
-  painter.setBrush(shade);
-  painter.drawRoundedRect(area.adjusted(0.5, 0.5, -0.5, -0.5), corner, corner);
-  painter.restore();
+void fillPanel(Canvas& canvas, const Rect& area, Colour top, Colour bottom) {
+  const LinearGradient shade{area.topLeft(), area.bottomLeft(), {{0, top}, {1, bottom}}};
+  const double corner = std::min(area.width, area.height) / 8;
+  canvas.roundedRectangle(area.adjusted(0.5, 0.5, -0.5, -0.5), corner,
+                          Stroke{bottom.darker(160), 1}, shade);
 }
 
-}  // namespace veridraw::gui
+}  // namespace veridraw::pictures

@@ -2,12 +2,11 @@
 // draws the balls, and a Lotto ticket.
 #pragma once
 
-#include <QPainter>
-#include <QRectF>
+#include "pictures/canvas.h"
 
-namespace veridraw::gui {
+namespace veridraw::pictures {
 
-void paintDrawMachine(QPainter& painter, const QRectF& area);
-void paintTicketSlip(QPainter& painter, const QRectF& area);
+void drawDrawMachine(Canvas& canvas, const Rect& area);
+void drawTicketSlip(Canvas& canvas, const Rect& area);
 
-}  // namespace veridraw::gui
+}  // namespace veridraw::pictures

@@ -9,7 +9,7 @@
 
 #include "gui/look/appearance.h"
 #include "gui/look/control_painting.h"
-#include "pictures/pictures.h"
+#include "gui/look/qt_canvas.h"
 
 using namespace veridraw;
 using namespace veridraw::gui;

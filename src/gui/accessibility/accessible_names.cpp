@@ -5,8 +5,8 @@
 #include <optional>
 #include <string>
 
-#include "pictures/pictures.h"
 #include "gui/window/windows1252.h"
+#include "pictures/pictures.h"
 #include "screen/form.h"
 
 namespace veridraw::gui {
@@ -200,7 +200,7 @@ QString accessibleName(const Control& control) {
   // A picture is named by what it shows; its tool-tip, if any, is read after
   // the name as its description.
   if (control.picture() != Picture::None && control.caption().empty())
-    return pictureWords(control.picture());
+    return fromWindows1252(pictures::pictureSubject(control.picture()));
   switch (control.kind()) {
     case ControlKind::TextBox:
       return textBoxName(control);

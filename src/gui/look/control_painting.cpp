@@ -4,7 +4,7 @@
 #include <algorithm>
 
 #include "gui/look/appearance.h"
-#include "pictures/pictures.h"
+#include "gui/look/qt_canvas.h"
 
 namespace veridraw::gui {
 
