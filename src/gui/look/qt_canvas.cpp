@@ -34,10 +34,6 @@ QPolygonF toQPolygon(const std::vector<Point>& points) {
   return polygon;
 }
 
-QFont toQFont(Font font) {
-  return scalableFont(font.pixels, font.bold);
-}
-
 Qt::PenCapStyle toQt(LineCap cap) {
   switch (cap) {
     case LineCap::Flat:
@@ -89,6 +85,29 @@ struct BrushOf {
 
 }  // namespace
 
+const QFont& QtCanvas::font(Font font) {
+  if (font_ != font) {
+    qtFont_ = scalableFont(font.pixels, font.bold);
+    metrics_.reset();
+    font_ = font;
+  }
+  return qtFont_;
+}
+
+const QFontMetricsF& QtCanvas::metrics(Font font) {
+  const QFont& made = this->font(font);
+  if (!metrics_) metrics_.emplace(made);
+  return *metrics_;
+}
+
+const QString& QtCanvas::converted(std::string_view text) {
+  if (!text_ || *text_ != text) {
+    qtText_ = fromWindows1252(text);
+    text_ = std::string(text);
+  }
+  return qtText_;
+}
+
 void QtCanvas::use(const std::optional<Stroke>& stroke, const Fill& fill) {
   painter_.setPen(stroke ? toQPen(*stroke) : QPen(Qt::NoPen));
   painter_.setBrush(std::visit(BrushOf{}, fill));
@@ -136,29 +155,27 @@ void QtCanvas::polyline(const std::vector<Point>& points, const Stroke& stroke) 
 }
 
 void QtCanvas::text(Point origin, std::string_view text, Font font, Colour colour) {
-  painter_.setFont(toQFont(font));
+  painter_.setFont(this->font(font));
   painter_.setPen(toQColor(colour));
-  painter_.drawText(toQPoint(origin), fromWindows1252(text));
+  painter_.drawText(toQPoint(origin), converted(text));
 }
 
 void QtCanvas::wrappedText(const Rect& box, std::string_view text, Font font, Colour colour) {
-  painter_.setFont(toQFont(font));
+  painter_.setFont(this->font(font));
   painter_.setPen(toQColor(colour));
-  painter_.drawText(toQRect(box), kWrappedText, fromWindows1252(text));
+  painter_.drawText(toQRect(box), kWrappedText, converted(text));
 }
 
 double QtCanvas::textWidth(std::string_view text, Font font) {
-  return QFontMetricsF(toQFont(font)).horizontalAdvance(fromWindows1252(text));
+  return metrics(font).horizontalAdvance(converted(text));
 }
 
 double QtCanvas::capHeight(Font font) {
-  return QFontMetricsF(toQFont(font)).capHeight();
+  return metrics(font).capHeight();
 }
 
 double QtCanvas::wrappedHeight(const Rect& box, std::string_view text, Font font) {
-  return QFontMetricsF(toQFont(font))
-      .boundingRect(toQRect(box), kWrappedText, fromWindows1252(text))
-      .height();
+  return metrics(font).boundingRect(toQRect(box), kWrappedText, converted(text)).height();
 }
 
 void QtCanvas::fillPixels(const PixelRect& area, Colour colour) {

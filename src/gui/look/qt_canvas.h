@@ -1,8 +1,13 @@
 // The pictures' canvas on a QPainter, and the pictures painted with it.
 #pragma once
 
+#include <QFont>
+#include <QFontMetricsF>
 #include <QPainter>
 #include <QRectF>
+#include <QString>
+#include <optional>
+#include <string>
 
 #include "pictures/canvas.h"
 #include "screen/picture.h"
@@ -10,7 +15,9 @@
 namespace veridraw::gui {
 
 // Draws on the painter as it stands: each shape sets the pen and the brush
-// it needs; fonts are the forms' scalable face (scalableFont).
+// it needs; fonts are the forms' scalable face (scalableFont). A fitted text
+// is measured in size after size and then drawn, so the canvas keeps the last
+// font with its metrics and the last text converted.
 class QtCanvas final : public pictures::Canvas {
  public:
   explicit QtCanvas(QPainter& painter) : painter_(painter) {}
@@ -41,8 +48,16 @@ class QtCanvas final : public pictures::Canvas {
 
  private:
   void use(const std::optional<pictures::Stroke>& stroke, const pictures::Fill& fill);
+  const QFont& font(pictures::Font font);
+  const QFontMetricsF& metrics(pictures::Font font);
+  const QString& converted(std::string_view text);
 
   QPainter& painter_;
+  std::optional<pictures::Font> font_;
+  QFont qtFont_;
+  std::optional<QFontMetricsF> metrics_;
+  std::optional<std::string> text_;
+  QString qtText_;
 };
 
 // Paints the picture to fill the area, anti-aliased and clipped to it.
