@@ -63,9 +63,9 @@ struct PixelRect {
   int width = 0;
   int height = 0;
 
-  int right() const { return x + width - 1; }
-  int bottom() const { return y + height - 1; }
-  PixelRect adjusted(int dx1, int dy1, int dx2, int dy2) const {
+  constexpr int right() const { return x + width - 1; }
+  constexpr int bottom() const { return y + height - 1; }
+  constexpr PixelRect adjusted(int dx1, int dy1, int dx2, int dy2) const {
     return {x + dx1, y + dy1, width + dx2 - dx1, height + dy2 - dy1};
   }
 

@@ -36,11 +36,11 @@ std::vector<Band> bands(const RecordingCanvas& canvas) {
 
 TEST(ClassicEdges, AFrameIsFourBandsOfOnePixel) {
   RecordingCanvas canvas;
-  classic::drawFrame(canvas, {10, 20, 30, 15}, Colour(1, 2, 3), Colour(4, 5, 6));
-  EXPECT_EQ(bands(canvas), (std::vector<Band>{{{10, 20, 30, 1}, Colour(1, 2, 3)},
-                                              {{10, 20, 1, 15}, Colour(1, 2, 3)},
-                                              {{10, 34, 30, 1}, Colour(4, 5, 6)},
-                                              {{39, 20, 1, 15}, Colour(4, 5, 6)}}));
+  classic::drawFrame(canvas, {10, 20, 30, 15}, classic::Shade::Light, classic::Shade::Shadow);
+  EXPECT_EQ(bands(canvas), (std::vector<Band>{{{10, 20, 30, 1}, classic::kLight},
+                                              {{10, 20, 1, 15}, classic::kLight},
+                                              {{10, 34, 30, 1}, classic::kShadow},
+                                              {{39, 20, 1, 15}, classic::kShadow}}));
 }
 
 TEST(ClassicEdges, ARaisedEdgeIsLitFromTheTopLeft) {
@@ -73,6 +73,20 @@ TEST(ClassicEdges, ASunkenEdgeIsItsOppositeAndAPressedOneIsDark) {
     EXPECT_EQ(held[i].colour, classic::kDarkShadow);
   for (std::size_t i = 4; i < 8; ++i)
     EXPECT_EQ(held[i].colour, classic::kShadow);
+}
+
+TEST(ClassicEdges, TheBandsOfAnEdgeAreItsTwoFramesOuterFirst) {
+  constexpr PixelRect area{5, 6, 40, 20};
+  constexpr auto edge = classic::edgeBands(area, classic::Edge::Sunken);
+  const auto outer = classic::frameBands(area, classic::Shade::Shadow, classic::Shade::Highlight);
+  const auto inner =
+      classic::frameBands({6, 7, 38, 18}, classic::Shade::DarkShadow, classic::Shade::Light);
+  for (std::size_t i = 0; i < 4; ++i) {
+    EXPECT_EQ(edge[i].area, outer[i].area);
+    EXPECT_EQ(edge[i].shade, outer[i].shade);
+    EXPECT_EQ(edge[i + 4].area, inner[i].area);
+    EXPECT_EQ(edge[i + 4].shade, inner[i].shade);
+  }
 }
 
 TEST(ClassicEdges, TheFocusIsADottedFrame) {
