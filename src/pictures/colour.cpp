@@ -1,6 +1,7 @@
 #include "pictures/colour.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace veridraw::pictures {
@@ -61,10 +62,18 @@ Hsv toHsv(const Colour& colour) {
   return hsv;
 }
 
+// Which of the three values of a sector of hue makes each of red, green and
+// blue: the value itself, the floor p, or the one that rises or falls across
+// the sector.
+enum Part { kValue, kFloor, kSlope };
+constexpr std::array<std::array<Part, 3>, 6> kSectors{{{kValue, kSlope, kFloor},
+                                                       {kSlope, kValue, kFloor},
+                                                       {kFloor, kValue, kSlope},
+                                                       {kFloor, kSlope, kValue},
+                                                       {kSlope, kFloor, kValue},
+                                                       {kValue, kFloor, kSlope}}};
+
 Colour fromHsv(const Hsv& hsv, std::uint16_t alpha) {
-  const auto channel = [](float value) {
-    return static_cast<std::uint16_t>(rounded(value * kTop));
-  };
   if (hsv.saturation == 0 || hsv.hue == kNoHue) {
     const auto grey = static_cast<std::uint16_t>(hsv.value);
     return Colour::fromWide(grey, grey, grey, alpha);
@@ -74,27 +83,14 @@ Colour fromHsv(const Hsv& hsv, std::uint16_t alpha) {
   const float v = static_cast<float>(hsv.value) / static_cast<float>(kTop);
   const int sector = static_cast<int>(h);
   const float f = h - static_cast<float>(sector);
-  const float p = v * (1.0F - s);
-  if ((sector & 1) != 0) {
-    const float q = v * (1.0F - (s * f));
-    switch (sector) {
-      case 1:
-        return Colour::fromWide(channel(q), channel(v), channel(p), alpha);
-      case 3:
-        return Colour::fromWide(channel(p), channel(q), channel(v), alpha);
-      default:
-        return Colour::fromWide(channel(v), channel(p), channel(q), alpha);
-    }
-  }
-  const float t = v * (1.0F - (s * (1.0F - f)));
-  switch (sector) {
-    case 0:
-      return Colour::fromWide(channel(v), channel(t), channel(p), alpha);
-    case 2:
-      return Colour::fromWide(channel(p), channel(v), channel(t), alpha);
-    default:
-      return Colour::fromWide(channel(t), channel(p), channel(v), alpha);
-  }
+  // Falling across an odd sector, rising across an even one.
+  const float slope = (sector & 1) != 0 ? v * (1.0F - (s * f)) : v * (1.0F - (s * (1.0F - f)));
+  const std::array<float, 3> parts{v, v * (1.0F - s), slope};
+  const std::array<Part, 3>& order = kSectors[static_cast<std::size_t>(sector)];
+  const auto channel = [&parts](Part part) {
+    return static_cast<std::uint16_t>(rounded(parts[part] * kTop));
+  };
+  return Colour::fromWide(channel(order[0]), channel(order[1]), channel(order[2]), alpha);
 }
 
 }  // namespace

@@ -1,5 +1,8 @@
 #include "pictures/pictures.h"
 
+#include <array>
+#include <string_view>
+
 #include "pictures/decor_pictures.h"
 #include "pictures/document_pictures.h"
 #include "pictures/game_pictures.h"
@@ -7,75 +10,51 @@
 
 namespace veridraw::pictures {
 
+namespace {
+
+using Drawing = void (*)(Canvas&, const Rect&);
+
+// A picture, its drawing, and what it shows in a few words for those who
+// can't see it. The documents and the notice say their own words.
+struct Entry {
+  Picture picture;
+  Drawing draw;
+  std::string_view subject;
+};
+
+constexpr std::array kEntries{
+    Entry{Picture::Lotto, drawLotto, "Lotto"},
+    Entry{Picture::Strike, drawStrike, "Strike"},
+    Entry{Picture::PowerBall, drawPowerBall, "PowerBall"},
+    Entry{Picture::Notice, drawNotice, {}},
+    Entry{Picture::Mark, drawMark, "Veridraw mark"},
+    Entry{Picture::Coins, drawCoins, "Coins"},
+    Entry{Picture::Money, drawMoney, "Banknotes"},
+    Entry{Picture::LottoBalls, drawDrawMachine, "Lotto draw machine"},
+    Entry{Picture::LottoTicket, drawTicketSlip, "Lotto ticket"},
+    // The Strike screen's decoration: its game picture and the ticket slip.
+    Entry{Picture::StrikeBalls, drawStrike, "Strike"},
+    Entry{Picture::StrikeTicket, drawTicketSlip, "Strike ticket"},
+};
+
+const Entry* entryOf(Picture picture) {
+  for (const Entry& entry : kEntries)
+    if (entry.picture == picture) return &entry;
+  return nullptr;
+}
+
+}  // namespace
+
 void drawPicture(Canvas& canvas, const Rect& area, Picture picture) {
-  switch (picture) {
-    case Picture::None:
-      return;
-    case Picture::Lotto:
-      return drawLotto(canvas, area);
-    // The Strike screen's balls are its game picture.
-    case Picture::Strike:
-    case Picture::StrikeBalls:
-      return drawStrike(canvas, area);
-    case Picture::PowerBall:
-      return drawPowerBall(canvas, area);
-    case Picture::Notice:
-      return drawNotice(canvas, area);
-    case Picture::Mark:
-      return drawMark(canvas, area);
-    case Picture::Coins:
-      return drawCoins(canvas, area);
-    case Picture::Money:
-      return drawMoney(canvas, area);
-    case Picture::LottoBalls:
-      return drawDrawMachine(canvas, area);
-    // Both ticket screens show the same slip.
-    case Picture::LottoTicket:
-    case Picture::StrikeTicket:
-      return drawTicketSlip(canvas, area);
-    case Picture::DocumentLotto:
-    case Picture::DocumentStrike:
-    case Picture::DocumentPowerBall:
-    case Picture::DocumentNotes:
-    case Picture::DocumentContact:
-      drawDocument(canvas, area, picture);
-      return;
-  }
+  if (drawDocument(canvas, area, picture)) return;
+  if (const Entry* entry = entryOf(picture)) entry->draw(canvas, area);
 }
 
 std::string pictureSubject(Picture picture) {
-  switch (picture) {
-    case Picture::None:
-      return {};
-    case Picture::Lotto:
-      return "Lotto";
-    case Picture::Strike:
-    case Picture::StrikeBalls:
-      return "Strike";
-    case Picture::PowerBall:
-      return "PowerBall";
-    case Picture::Notice:
-      return std::string(noticeWords());
-    case Picture::Mark:
-      return "Veridraw mark";
-    case Picture::Coins:
-      return "Coins";
-    case Picture::Money:
-      return "Banknotes";
-    case Picture::LottoBalls:
-      return "Lotto draw machine";
-    case Picture::LottoTicket:
-      return "Lotto ticket";
-    case Picture::StrikeTicket:
-      return "Strike ticket";
-    case Picture::DocumentLotto:
-    case Picture::DocumentStrike:
-    case Picture::DocumentPowerBall:
-    case Picture::DocumentNotes:
-    case Picture::DocumentContact:
-      return documentWords(picture);
-  }
-  return {};
+  if (std::string words = documentWords(picture); !words.empty()) return words;
+  if (picture == Picture::Notice) return std::string(noticeWords());
+  const Entry* entry = entryOf(picture);
+  return entry != nullptr ? std::string(entry->subject) : std::string();
 }
 
 }  // namespace veridraw::pictures

@@ -2,44 +2,32 @@
 
 namespace veridraw {
 
+namespace {
+
+// The names, in the order of the enum.
+constexpr std::array<std::string_view, 17> kNames{"",
+                                                  "lotto",
+                                                  "strike",
+                                                  "powerball",
+                                                  "notice",
+                                                  "mark",
+                                                  "coins",
+                                                  "money",
+                                                  "lotto-balls",
+                                                  "lotto-ticket",
+                                                  "strike-balls",
+                                                  "strike-ticket",
+                                                  "document-lotto",
+                                                  "document-strike",
+                                                  "document-powerball",
+                                                  "document-notes",
+                                                  "document-contact"};
+static_assert(kNames.size() == kAllPictures.size() + 1, "a name for every picture and for None");
+
+}  // namespace
+
 std::string_view pictureName(Picture picture) {
-  switch (picture) {
-    case Picture::None:
-      return "";
-    case Picture::Lotto:
-      return "lotto";
-    case Picture::Strike:
-      return "strike";
-    case Picture::PowerBall:
-      return "powerball";
-    case Picture::Notice:
-      return "notice";
-    case Picture::Mark:
-      return "mark";
-    case Picture::Coins:
-      return "coins";
-    case Picture::Money:
-      return "money";
-    case Picture::LottoBalls:
-      return "lotto-balls";
-    case Picture::LottoTicket:
-      return "lotto-ticket";
-    case Picture::StrikeBalls:
-      return "strike-balls";
-    case Picture::StrikeTicket:
-      return "strike-ticket";
-    case Picture::DocumentLotto:
-      return "document-lotto";
-    case Picture::DocumentStrike:
-      return "document-strike";
-    case Picture::DocumentPowerBall:
-      return "document-powerball";
-    case Picture::DocumentNotes:
-      return "document-notes";
-    case Picture::DocumentContact:
-      return "document-contact";
-  }
-  return "";
+  return kNames[static_cast<std::size_t>(picture)];
 }
 
 }  // namespace veridraw

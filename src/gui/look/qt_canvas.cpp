@@ -5,6 +5,7 @@
 #include <QPainterPath>
 #include <QPolygonF>
 #include <QRadialGradient>
+#include <array>
 
 #include "gui/look/appearance.h"
 #include "gui/window/windows1252.h"
@@ -34,33 +35,14 @@ QPolygonF toQPolygon(const std::vector<Point>& points) {
   return polygon;
 }
 
-Qt::PenCapStyle toQt(LineCap cap) {
-  switch (cap) {
-    case LineCap::Flat:
-      return Qt::FlatCap;
-    case LineCap::Round:
-      return Qt::RoundCap;
-    case LineCap::Square:
-      break;
-  }
-  return Qt::SquareCap;
-}
-
-Qt::PenJoinStyle toQt(LineJoin join) {
-  switch (join) {
-    case LineJoin::Miter:
-      return Qt::MiterJoin;
-    case LineJoin::Round:
-      return Qt::RoundJoin;
-    case LineJoin::Bevel:
-      break;
-  }
-  return Qt::BevelJoin;
-}
+// The caps and joins of the canvas, in the order of their enums.
+constexpr std::array kCaps{Qt::FlatCap, Qt::SquareCap, Qt::RoundCap};
+constexpr std::array kJoins{Qt::MiterJoin, Qt::BevelJoin, Qt::RoundJoin};
 
 QPen toQPen(const Stroke& stroke) {
-  return QPen(QBrush(toQColor(stroke.colour)), stroke.width, Qt::SolidLine, toQt(stroke.cap),
-              toQt(stroke.join));
+  return QPen(QBrush(toQColor(stroke.colour)), stroke.width, Qt::SolidLine,
+              kCaps[static_cast<std::size_t>(stroke.cap)],
+              kJoins[static_cast<std::size_t>(stroke.join)]);
 }
 
 void addStops(QGradient& gradient, const std::vector<GradientStop>& stops) {
