@@ -57,9 +57,9 @@ FormDesign veridraw7fDesign() {
     button("BtnEnterLottoDrawNumbers", {4020, 4680, 3855, 325}, "Enter &Lotto Winning Numbers").tab(0),
     button("BtnEnterStrikeNumbers", {4020, 5040, 3855, 325}, "Enter &Strike Winning Numbers").tab(1),
     button("BtnCheckTickets", {4020, 5400, 3855, 325}, "Check &Your Tickets").tab(2),
-    pictureButton("BtnPowerBall", {4680, 3120, 2535, 855}, "powerball").tip("Click to start PowerBall").hidden().tab(3),
-    pictureButton("Btn1Lotto", {3840, 4200, 1575, 855}, "lotto").tip("Click to start Lotto").hidden().tab(4),
-    pictureButton("Btn2Strike", {6480, 4200, 1575, 855}, "strike").tip("Click to start Strike").hidden().tab(5),
+    pictureButton("BtnPowerBall", {4680, 3120, 2535, 855}, Picture::PowerBall).tip("Click to start PowerBall").hidden().tab(3),
+    pictureButton("Btn1Lotto", {3840, 4200, 1575, 855}, Picture::Lotto).tip("Click to start Lotto").hidden().tab(4),
+    pictureButton("Btn2Strike", {6480, 4200, 1575, 855}, Picture::Strike).tip("Click to start Strike").hidden().tab(5),
     button("BtnRestart", {4440, 7320, 975, 375}, "&Restart").tip("Restart Veridraw").tab(6),
     button("BtnCancel", {5520, 7320, 855, 375}, "&Cancel").tip("Cancel this action").hidden().tab(7),
     button("CmdEnd", {6480, 7320, 975, 375}, "E&xit").tip("Exit Veridraw").tab(8),
@@ -133,14 +133,14 @@ FormDesign veridraw7fDesign() {
     spare("TxtDrawnNumbers", 11, {2160, 8160, 240, 240}),
 
     // Decoration.
-    document("OLE1", {120, 120, 2895, 675}, "document-lotto"),
-    document("OLE5", {3120, 120, 675, 675}, "mark"),
-    document("OLE2", {8865, 120, 2895, 675}, "document-notes"),
-    document("OLE6", {8085, 120, 675, 675}, "mark"),
+    document("OLE1", {120, 120, 2895, 675}, Picture::DocumentLotto),
+    document("OLE5", {3120, 120, 675, 675}, Picture::Mark),
+    document("OLE2", {8865, 120, 2895, 675}, Picture::DocumentNotes),
+    document("OLE6", {8085, 120, 675, 675}, Picture::Mark),
     label("Label3", {4080, 240, 3735, 615}, "Lotto Veridraw").font(24, true),
     label("lblLotto", {4560, 960, 2775, 375}, "Lotto Veridraw").font(12, true),
-    image("Image1", {4680, 1440, 2535, 1335}, "lotto"),
-    image("Image2", {8970, 3360, 2415, 1215}, "coins"),
+    image("Image1", {4680, 1440, 2535, 1335}, Picture::Lotto),
+    image("Image2", {8970, 3360, 2415, 1215}, Picture::Coins),
   };
   // clang-format on
   addSampleTicket(form.controls, {.lines = 10,
@@ -152,8 +152,9 @@ FormDesign veridraw7fDesign() {
                                   .lineNumbers = false});
   addResultsPanel(form.controls);
   // Last, so that it stands in front of the spare cells.
-  form.controls.push_back(pictureButton("CmdNotice", {120, 8160, 2655, 375}, "notice")
-                              .tip("Veridraw is free software under the GNU GPL, version 3 or later"));
+  form.controls.push_back(
+      pictureButton("CmdNotice", {120, 8160, 2655, 375}, Picture::Notice)
+          .tip("Veridraw is free software under the GNU GPL, version 3 or later"));
   return form;
 }
 

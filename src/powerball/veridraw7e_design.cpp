@@ -143,8 +143,8 @@ FormDesign veridraw7eDesign() {
                                         .enterLine = {3225, 1500, 3015, 255},
                                         .prizesHeading = {9285, 960, 1815, 285},
                                         .youveWon = {4860, 1005, 2295, 600},
-                                        .ballsDrawing = "powerball",
-                                        .ticketDrawing = "lotto"});
+                                        .ballsDrawing = Picture::PowerBall,
+                                        .ticketDrawing = Picture::Lotto});
   // clang-format off
   tickets::insertAfter(controls, "List2", {
     button("BtnYes", {5040, 2000, 800, 325}, "&Yes").hidden().tab(11),

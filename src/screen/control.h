@@ -67,7 +67,7 @@ class Control {
 
   const std::string& toolTipText() const { return toolTip_; }
   Alignment alignment() const { return alignment_; }
-  const std::string& picture() const { return picture_; }
+  Picture picture() const { return picture_; }
   bool focusOnClick() const { return focusOnClick_; }
 
   // SetFocus: the control must be visible and enabled, or fatal error 5.
@@ -132,7 +132,7 @@ class Control {
   int borderStyle_;
   int left_, top_, width_, height_;
   Alignment alignment_;
-  std::string picture_;
+  Picture picture_;
   bool focusOnClick_;
   std::vector<std::string> items_;
   int listIndex_ = -1;

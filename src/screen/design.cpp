@@ -30,20 +30,20 @@ ControlDesign button(std::string name, Place place, std::string caption) {
   return placed(ControlKind::CommandButton, std::move(name), place, std::move(caption));
 }
 
-ControlDesign pictureButton(std::string name, Place place, std::string drawing) {
-  return placed(ControlKind::CommandButton, std::move(name), place, "").drawing(std::move(drawing));
+ControlDesign pictureButton(std::string name, Place place, Picture drawing) {
+  return placed(ControlKind::CommandButton, std::move(name), place, "").drawing(drawing);
 }
 
 ControlDesign listBox(std::string name, Place place) {
   return placed(ControlKind::ListBox, std::move(name), place, "");
 }
 
-ControlDesign image(std::string name, Place place, std::string drawing) {
-  return placed(ControlKind::Image, std::move(name), place, "").drawing(std::move(drawing));
+ControlDesign image(std::string name, Place place, Picture drawing) {
+  return placed(ControlKind::Image, std::move(name), place, "").drawing(drawing);
 }
 
-ControlDesign document(std::string name, Place place, std::string drawing) {
-  return placed(ControlKind::Document, std::move(name), place, "").drawing(std::move(drawing));
+ControlDesign document(std::string name, Place place, Picture drawing) {
+  return placed(ControlKind::Document, std::move(name), place, "").drawing(drawing);
 }
 
 }  // namespace veridraw

@@ -5,6 +5,8 @@
 #include <cstdint>
 #include <string>
 
+#include "screen/picture.h"
+
 namespace veridraw {
 
 enum class ControlKind { TextBox, Label, CommandButton, ListBox, Image, Document };
@@ -52,8 +54,8 @@ struct ControlDesign {
   int tabIndex = kDefault;     // kDefault: after the explicit ones, in table order
   int borderStyle = kDefault;  // kDefault: 1 for text boxes, 0 for the rest
   Alignment alignment = Alignment::Left;
-  std::string picture;       // the name of the drawing on an image or a picture button
-  bool focusOnClick = true;  // false: a click leaves the focus where it is
+  Picture picture = Picture::None;  // the drawing on an image, a document or a picture button
+  bool focusOnClick = true;         // false: a click leaves the focus where it is
 
   // Modifiers, so that a design table reads one control to a line.
   ControlDesign&& at(int element) && { return index = element, std::move(*this); }
@@ -77,9 +79,7 @@ struct ControlDesign {
   ControlDesign&& tab(int value) && { return tabIndex = value, std::move(*this); }
   ControlDesign&& border(int value) && { return borderStyle = value, std::move(*this); }
   ControlDesign&& centred() && { return alignment = Alignment::Center, std::move(*this); }
-  ControlDesign&& drawing(std::string value) && {
-    return picture = std::move(value), std::move(*this);
-  }
+  ControlDesign&& drawing(Picture value) && { return picture = value, std::move(*this); }
 };
 
 // A place on the form in twips: left, top, width, height.
@@ -93,9 +93,9 @@ struct Place {
 ControlDesign textBox(std::string name, Place place, std::string text = " ");
 ControlDesign label(std::string name, Place place, std::string caption);
 ControlDesign button(std::string name, Place place, std::string caption);
-ControlDesign pictureButton(std::string name, Place place, std::string drawing);
+ControlDesign pictureButton(std::string name, Place place, Picture drawing);
 ControlDesign listBox(std::string name, Place place);
-ControlDesign image(std::string name, Place place, std::string drawing);
-ControlDesign document(std::string name, Place place, std::string drawing);
+ControlDesign image(std::string name, Place place, Picture drawing);
+ControlDesign document(std::string name, Place place, Picture drawing);
 
 }  // namespace veridraw

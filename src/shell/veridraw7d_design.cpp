@@ -54,11 +54,11 @@ FormDesign veridraw7dDesign() {
     label("Label6", {1680, 6600, 8160, 585}, kDisclaimer).hidden(),
     textBox("Text2", {1680, 7320, 8295, 585}, kUseNotice).hidden().lockedBox().noTabStop(),
     textBox("Text3", {1680, 7515, 4335, 200}, kCopyNotice).hidden().lockedBox().noTabStop().border(0),
-    document("OLE1", {240, 240, 1095, 735}, "document-contact"),
-    document("OLE3", {8760, 1080, 2895, 1095}, "document-notes"),
-    document("OLE4", {10200, 6000, 1455, 1095}, "document-lotto"),
-    document("OLE5", {240, 7800, 615, 615}, "mark"),
-    document("OLE6", {10560, 240, 1095, 735}, "document-contact"),
+    document("OLE1", {240, 240, 1095, 735}, Picture::DocumentContact),
+    document("OLE3", {8760, 1080, 2895, 1095}, Picture::DocumentNotes),
+    document("OLE4", {10200, 6000, 1455, 1095}, Picture::DocumentLotto),
+    document("OLE5", {240, 7800, 615, 615}, Picture::Mark),
+    document("OLE6", {10560, 240, 1095, 735}, Picture::DocumentContact),
   };
   // clang-format on
   return form;

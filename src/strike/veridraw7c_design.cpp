@@ -38,8 +38,8 @@ FormDesign veridraw7cDesign() {
                               .prizesHeading = {8970, 915, 2415, 285},
                               .prizesHeadingCaption = "STRIKE PRIZES",
                               .youveWon = {4935, 1005, 2295, 600},
-                              .ballsDrawing = "strike-balls",
-                              .ticketDrawing = "strike-ticket"});
+                              .ballsDrawing = Picture::StrikeBalls,
+                              .ticketDrawing = Picture::StrikeTicket});
   // clang-format off
   tickets::insertAfter(controls, "List2", {
     label("lblStrike", {5160, 120, 1695, 705}, "Strike").font(24, true).centred(),

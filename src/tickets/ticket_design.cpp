@@ -53,8 +53,8 @@ void addTicketControls(std::vector<ControlDesign>& controls, const TicketLook& l
 
     textBox("TxtLottoPrizes", look.prizesHeading, look.prizesHeadingCaption).font(10, true).centred().lockedBox().noTabStop(),
     label("LblYouveWon", look.youveWon, "").font(12, true).centred().hidden(),
-    image("ImgMoney", {360, 1800, 2655, 1215}, "money").hidden(),
-    image("ImgCoins", {570, 3720, 2295, 1500}, "coins").hidden(),
+    image("ImgMoney", {360, 1800, 2655, 1215}, Picture::Money).hidden(),
+    image("ImgCoins", {570, 3720, 2295, 1500}, Picture::Coins).hidden(),
     image("Image1", {450, 5280, 1050, 600}, look.ballsDrawing),
     image("Image2", {1890, 5280, 975, 615}, look.ticketDrawing),
     image("Image3", {8970, 5280, 1050, 600}, look.ballsDrawing),
@@ -76,7 +76,7 @@ void insertAfter(std::vector<ControlDesign>& controls, std::string_view name,
 }
 
 void addNotice(std::vector<ControlDesign>& controls) {
-  controls.push_back(pictureButton("CmdNotice", {120, 8160, 2655, 375}, "notice")
+  controls.push_back(pictureButton("CmdNotice", {120, 8160, 2655, 375}, Picture::Notice)
                          .tip("Veridraw is free software under the GNU GPL, version 3 or later"));
 }
 

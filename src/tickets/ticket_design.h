@@ -32,9 +32,9 @@ struct TicketLook {
   int numbersPerLine = 6;
   Place prizesHeading{8970, 1035, 2415, 285};  // TxtLottoPrizes
   std::string prizesHeadingCaption = "LOTTO PRIZES";
-  Place youveWon{4560, 1005, 2775, 600};       // LblYouveWon
-  std::string ballsDrawing = "lotto-balls";    // Image1 and Image3
-  std::string ticketDrawing = "lotto-ticket";  // Image2 and Image4
+  Place youveWon{4560, 1005, 2775, 600};         // LblYouveWon
+  Picture ballsDrawing = Picture::LottoBalls;    // Image1 and Image3
+  Picture ticketDrawing = Picture::LottoTicket;  // Image2 and Image4
 };
 
 // The controls of the three ticket screens, in their designer's order: the

@@ -23,7 +23,7 @@ FormDesign samplerDesign() {
     button("CmdQuestion", {2400, 3000, 1200, 375}, "&Question"),
     button("CmdCount", {3800, 1500, 1200, 375}, "&Count"),
     button("CmdReload", {3800, 2000, 1200, 375}, "&Reload"),
-    image("Coins", {3800, 2500, 1200, 900}, "coins").hidden(),
+    image("Coins", {3800, 2500, 1200, 900}, Picture::Coins).hidden(),
   };
   // clang-format on
   return form;

@@ -29,7 +29,7 @@ TEST_F(ScreenTest, TheFirstFocusSkipsWhatCantTakeIt) {
     textBox("NoStop", {0, 900, 600, 300}).noTabStop().tab(3),
     button("Target", {0, 1200, 600, 300}, "&Target").tab(5),
     textBox("Later", {0, 1500, 600, 300}).tab(6),
-    image("Picture", {0, 1800, 600, 300}, "lotto").tab(4),
+    image("Picture", {0, 1800, 600, 300}, Picture::Lotto).tab(4),
   };
   // clang-format on
   app.addForm<testing::ProbeForm>(std::move(design));

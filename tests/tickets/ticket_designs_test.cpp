@@ -78,7 +78,8 @@ std::string dump(const FormDesign& form) {
         << " font=" << c.fontSize << (c.fontBold ? " bold" : " regular") << " visible=" << c.visible
         << " enabled=" << c.enabled << " locked=" << c.locked << " tabStop=" << c.tabStop
         << " tabIndex=" << c.tabIndex << " border=" << c.borderStyle
-        << " align=" << alignmentName(c.alignment) << " picture=" << quoted(c.picture)
+        << " align=" << alignmentName(c.alignment)
+        << " picture=" << quoted(std::string(pictureName(c.picture)))
         << " focusOnClick=" << c.focusOnClick << "\n";
   }
   return out.str();

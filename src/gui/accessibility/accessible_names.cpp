@@ -5,8 +5,8 @@
 #include <optional>
 #include <string>
 
-#include "gui/pictures/pictures.h"
 #include "gui/window/windows1252.h"
+#include "pictures/pictures.h"
 #include "screen/form.h"
 
 namespace veridraw::gui {
@@ -199,8 +199,8 @@ QString accessKeyShortcut(const Control& control) {
 QString accessibleName(const Control& control) {
   // A picture is named by what it shows; its tool-tip, if any, is read after
   // the name as its description.
-  if (!control.picture().empty() && control.caption().empty())
-    return pictureWords(control.picture());
+  if (control.picture() != Picture::None && control.caption().empty())
+    return fromWindows1252(pictures::pictureSubject(control.picture()));
   switch (control.kind()) {
     case ControlKind::TextBox:
       return textBoxName(control);

@@ -69,6 +69,11 @@ QColor modelColor(std::int32_t bgr) {
           static_cast<int>((value >> 16) & 0xFF)};
 }
 
+QColor toQColor(pictures::Colour colour) {
+  return QColor::fromRgba64(colour.wideRed(), colour.wideGreen(), colour.wideBlue(),
+                            colour.wideAlpha());
+}
+
 QFont modelFont(double points, bool bold) {
   // Few sizes are in use, and a font is costly to match: each is made once.
   static std::map<std::pair<double, bool>, QFont> made;

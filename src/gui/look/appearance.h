@@ -7,6 +7,9 @@
 #include <QRect>
 #include <cstdint>
 
+#include "pictures/classic_edges.h"
+#include "pictures/colour.h"
+
 namespace veridraw::gui {
 
 inline constexpr int kTwipsPerPixel = 15;
@@ -15,6 +18,8 @@ int toPixels(int twips);
 QRect toPixels(int left, int top, int width, int height);
 
 QColor modelColor(std::int32_t bgr);
+// A colour of the pictures and of the classic look, 16 bits a channel as it is.
+QColor toQColor(pictures::Colour colour);
 
 // The font of the forms at the given size. The layout is in pixels of a 96 dpi
 // screen, so the size is set in those pixels too. The forms were laid out for
@@ -36,11 +41,11 @@ QString captionFamily();
 
 // The colours of the classic three-dimensional edges.
 namespace edges {
-inline const QColor kHighlight{255, 255, 255};
-inline const QColor kLight{223, 223, 223};
-inline const QColor kShadow{128, 128, 128};
-inline const QColor kDarkShadow{0, 0, 0};
-inline const QColor kSelection{0, 0, 128};
+inline const QColor kHighlight = toQColor(pictures::classic::kHighlight);
+inline const QColor kLight = toQColor(pictures::classic::kLight);
+inline const QColor kShadow = toQColor(pictures::classic::kShadow);
+inline const QColor kDarkShadow = toQColor(pictures::classic::kDarkShadow);
+inline const QColor kSelection = toQColor(pictures::classic::kSelection);
 }  // namespace edges
 
 }  // namespace veridraw::gui

@@ -22,7 +22,7 @@ struct ControlLook {
   QFont font;
   int borderStyle = 0;
   Alignment alignment = Alignment::Left;
-  std::string picture;
+  Picture picture = Picture::None;
   QStringList items;
   int listIndex = -1;
   int topIndex = 0;

@@ -4,7 +4,8 @@
 #include <algorithm>
 
 #include "gui/look/appearance.h"
-#include "gui/pictures/pictures.h"
+#include "gui/look/qt_canvas.h"
+#include "pictures/classic_edges.h"
 
 namespace veridraw::gui {
 
@@ -19,30 +20,38 @@ constexpr int kFocusInset = 4;
 constexpr int kLeastShrink = 2;
 constexpr int kShrinkShare = 8;
 
-// A frame one pixel wide, its top and left edges in one colour and its bottom
-// and right edges, corners included, in the other. Filled, not stroked: the
-// frames of a window full of cells are painted at every key.
-void drawFrame(QPainter& painter, const QRect& area, const QColor& topLeft,
-               const QColor& bottomRight) {
-  painter.fillRect(area.left(), area.top(), area.width(), 1, topLeft);
-  painter.fillRect(area.left(), area.top(), 1, area.height(), topLeft);
-  painter.fillRect(area.left(), area.bottom(), area.width(), 1, bottomRight);
-  painter.fillRect(area.right(), area.top(), 1, area.height(), bottomRight);
+namespace classic = pictures::classic;
+
+pictures::PixelRect pixels(const QRect& area) {
+  return {area.x(), area.y(), area.width(), area.height()};
 }
 
-void drawRaised(QPainter& painter, const QRect& area) {
-  drawFrame(painter, area, edges::kHighlight, edges::kDarkShadow);
-  drawFrame(painter, area.adjusted(1, 1, -1, -1), edges::kLight, edges::kShadow);
+const QColor& qtShade(classic::Shade shade) {
+  switch (shade) {
+    case classic::Shade::Highlight:
+      return edges::kHighlight;
+    case classic::Shade::Light:
+      return edges::kLight;
+    case classic::Shade::Shadow:
+      return edges::kShadow;
+    case classic::Shade::DarkShadow:
+      break;
+  }
+  return edges::kDarkShadow;
 }
 
-void drawSunken(QPainter& painter, const QRect& area) {
-  drawFrame(painter, area, edges::kShadow, edges::kHighlight);
-  drawFrame(painter, area.adjusted(1, 1, -1, -1), edges::kDarkShadow, edges::kLight);
+// The bands of the classic edges, as the pictures library lays them out for
+// every face, filled here straight on the painter: a window full of cells
+// paints them at every key.
+template <std::size_t N>
+void fillBands(QPainter& painter, const std::array<classic::Band, N>& bands) {
+  for (const classic::Band& band : bands)
+    painter.fillRect(band.area.x, band.area.y, band.area.width, band.area.height,
+                     qtShade(band.shade));
 }
 
-void drawPressed(QPainter& painter, const QRect& area) {
-  drawFrame(painter, area, edges::kDarkShadow, edges::kDarkShadow);
-  drawFrame(painter, area.adjusted(1, 1, -1, -1), edges::kShadow, edges::kShadow);
+void drawEdge(QPainter& painter, const QRect& area, classic::Edge edge) {
+  fillBands(painter, classic::edgeBands(pixels(area), edge));
 }
 
 // The width of the border that the model's BorderStyle gives a text or list box.
@@ -52,12 +61,9 @@ int fieldBorder(const ControlLook& look) {
 
 // The dotted rectangle of the keyboard focus.
 void drawFocusRect(QPainter& painter, const QRect& area,
-                   const QColor& colour = edges::kDarkShadow) {
-  QPen pen(colour);
-  pen.setDashPattern({1, 1});
-  painter.setPen(pen);
-  painter.setBrush(Qt::NoBrush);
-  painter.drawRect(area.adjusted(0, 0, -1, -1));
+                   pictures::Colour colour = classic::kDarkShadow) {
+  QtCanvas canvas(painter);
+  classic::drawFocusMark(canvas, pixels(area), colour);
 }
 
 Qt::Alignment horizontal(Alignment alignment) {
@@ -139,17 +145,15 @@ void paintButton(QPainter& painter, const QRect& area, const ControlLook& look, 
   QRect face = area;
   if (look.focused) {
     // The button that Enter presses wears a black frame.
-    drawFrame(painter, face, edges::kDarkShadow, edges::kDarkShadow);
+    fillBands(painter, classic::frameBands(pixels(face), classic::Shade::DarkShadow,
+                                           classic::Shade::DarkShadow));
     face.adjust(1, 1, -1, -1);
   }
-  if (pressed) {
-    drawPressed(painter, face);
-  } else {
-    drawRaised(painter, face);
-  }
+  drawEdge(painter, face, pressed ? classic::Edge::Pressed : classic::Edge::Raised);
   QRect content = textArea(area, look);
   if (pressed) content.translate(1, 1);
-  if (!look.picture.empty()) paintPicture(painter, content.adjusted(1, 1, -1, -1), look.picture);
+  if (look.picture != Picture::None)
+    paintPicture(painter, content.adjusted(1, 1, -1, -1), look.picture);
   if (!look.text.isEmpty()) drawCaption(painter, content, look, cache);
   if (look.focused) {
     const int inset = kFocusInset - kBevel;
@@ -159,7 +163,7 @@ void paintButton(QPainter& painter, const QRect& area, const ControlLook& look, 
 
 void paintLabel(QPainter& painter, const QRect& area, const ControlLook& look, PaintCache* cache) {
   painter.fillRect(area, look.background);
-  if (look.borderStyle != 0) drawSunken(painter, area);
+  if (look.borderStyle != 0) drawEdge(painter, area, classic::Edge::Sunken);
   drawCaption(painter, textArea(area, look), look, cache);
 }
 
@@ -205,14 +209,14 @@ void paintText(QPainter& painter, const QRect& inner, const ControlLook& look, P
 void paintTextBox(QPainter& painter, const QRect& area, const ControlLook& look,
                   PaintCache* cache) {
   painter.fillRect(area, look.background);
-  if (look.borderStyle != 0) drawSunken(painter, area);
+  if (look.borderStyle != 0) drawEdge(painter, area, classic::Edge::Sunken);
   const int border = fieldBorder(look);
   paintText(painter, area.adjusted(border, border, -border, -border), look, cache);
 }
 
 void paintListBox(QPainter& painter, const QRect& area, const ControlLook& look) {
   painter.fillRect(area, look.background);
-  if (look.borderStyle != 0) drawSunken(painter, area);
+  if (look.borderStyle != 0) drawEdge(painter, area, classic::Edge::Sunken);
   const ListRows rows = listRows(area, look);
   painter.save();
   painter.setClipRect(rows.items);
@@ -228,7 +232,7 @@ void paintListBox(QPainter& painter, const QRect& area, const ControlLook& look)
     painter.drawText(row.adjusted(kRowMargin, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter,
                      look.items[item]);
     if (look.focused && item == std::max(0, look.listIndex))
-      drawFocusRect(painter, row, selected ? edges::kHighlight : edges::kDarkShadow);
+      drawFocusRect(painter, row, selected ? classic::kHighlight : classic::kDarkShadow);
   }
   painter.restore();
 }
