@@ -277,10 +277,18 @@ class ScreenReaderJourneyTest : public QObject, public ScreenChecks {
     QCoreApplication::processEvents();
   }
 
+  // The objects a reader finds showing, told beside what the window shows:
+  // itself, its shown views and their list rows, each of which a reader found
+  // before decoration was kept from it.
   int countShowing(const char* screen) {
     QAccessibleInterface* window = QAccessible::queryAccessibleInterface(program_->window());
     const int count = showingObjects(*window);
-    qInfo("%s screen: %d showing accessible objects", screen, count);
+    int onScreen = 1;
+    for (const ControlView* view : program_->window()->views())
+      if (!view->isHidden()) onScreen += 1 + static_cast<int>(view->look().items.size());
+    qInfo("%s screen: %d showing accessible objects of %d shown", screen, count, onScreen);
+    if (!qEnvironmentVariableIsEmpty("VERIDRAW_PRINT_ACCESSIBLE_TREE"))
+      qInfo().noquote() << '\n' + accessibleTree(*program_->window());
     return count;
   }
 
