@@ -217,6 +217,26 @@ class AccessibilityTest : public QObject, public ScreenChecks {
     QVERIFY(text != nullptr);
     QCOMPARE(text->characterCount(), 3);
     QCOMPARE(text->text(0, 2), "01");
+    // The characters stand where the painter drew them: every dark pixel of
+    // the cell's text lies in the rectangle of the "0" or of the "1", and each
+    // of the two holds some.
+    const QImage painted = first->grab().toImage();
+    const QRect zero(first->mapFromGlobal(text->characterRect(0).topLeft()),
+                     text->characterRect(0).size());
+    const QRect one(first->mapFromGlobal(text->characterRect(1).topLeft()),
+                    text->characterRect(1).size());
+    QVERIFY(!zero.isEmpty() && !one.isEmpty() && zero.right() < one.left() + 1);
+    int inZero = 0;
+    int inOne = 0;
+    const QRect inside = first->rect().adjusted(2, 2, -2, -2);
+    for (int y = inside.top(); y <= inside.bottom(); ++y)
+      for (int x = inside.left(); x <= inside.right(); ++x) {
+        if (qGray(painted.pixel(x, y)) > 96) continue;
+        QVERIFY2(zero.contains(x, y) || one.contains(x, y),
+                 qPrintable(QString("ink at %1,%2").arg(x).arg(y)));
+        ++(zero.contains(x, y) ? inZero : inOne);
+      }
+    QVERIFY(inZero > 0 && inOne > 0);
   }
 
   void aCaptionThatChangesIsAnnounced() {
