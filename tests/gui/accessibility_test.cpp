@@ -339,6 +339,25 @@ class AccessibilityTest : public QObject, public ScreenChecks {
     expectShownToReader("LblDivision4", false);
   }
 
+  void aPowerBallMatchIsToldApart() {
+    program_->writeFile("DrawNumber", "720\r\n");
+    program_->writeFile("720", "720\r\nX0308172239401205\r\n\r\n");
+    openTicketScreen(*program_, "BtnPowerBall");
+    QTest::keyClick(program_->window(), Qt::Key_N, Qt::AltModifier);
+    QTest::keyClick(program_->window(), Qt::Key_D, Qt::AltModifier);
+    type("030817223940030812172930010203172239010204050607");
+    // The question of one number for all lines describes its answers.
+    expectFocus("BtnYes");
+    QCOMPARE(object("BtnYes").text(QAccessible::Description),
+             QString::fromStdString(control("TxtNoofLines").text()).simplified());
+    QTest::keyClick(program_->window(), Qt::Key_Y, Qt::AltModifier);
+    type("05");
+    expectShownToReader("TxtPwrBall", true, 2);
+    expect("TxtPwrBall", QAccessible::StaticText, "Prize grid, line B, PowerBall", 2);
+    QCOMPARE(object("TxtPwrBall", 2).text(QAccessible::Description), "PowerBall match");
+    QCOMPARE(object("IntResult", 1).text(QAccessible::Description), "matched");
+  }
+
   void aQuestionDescribesTheButtonsThatAnswerIt() {
     openDrawScreen();
     pressAndAnswer(Qt::Key_Return, {}, "1106");
