@@ -3,7 +3,6 @@
 #include <QAccessible>
 #include <QAccessibleWidget>
 #include <QApplication>
-#include <QFontMetrics>
 #include <QPointer>
 #include <QWindow>
 #include <algorithm>

@@ -30,13 +30,14 @@ const Control* partner(const Control& control, const std::string& name) {
 // Whether `other` is named or described, by the design, by a control that is
 // shown and read on its own: its words are then heard with that control.
 bool partnerOfShownControl(const Control& other) {
-  return std::any_of(
-      other.form().controls().begin(), other.form().controls().end(), [&](const auto& control) {
-        const ReaderDesign& reader = readerOf(*control);
-        return control->visible() && reader.reading != Reading::Decoration &&
-               (reader.labelledBy == other.name() || reader.describedBy == other.name()) &&
-               !other.isArrayElement();
-      });
+  // Partners are named singly, never as an element of an array.
+  if (other.isArrayElement()) return false;
+  const auto& controls = other.form().controls();
+  return std::any_of(controls.begin(), controls.end(), [&](const auto& control) {
+    const ReaderDesign& reader = readerOf(*control);
+    return control->visible() && reader.reading != Reading::Decoration &&
+           (reader.labelledBy == other.name() || reader.describedBy == other.name());
+  });
 }
 
 bool holdsNothing(const Control& control) {
