@@ -27,7 +27,8 @@ ControlDesign besideLine(int index, int left, int top, std::string text) {
       .border(0)
       .back(colors::kButtonFace)
       .lockedBox()
-      .noTabStop();
+      .noTabStop()
+      .decoration();
 }
 
 }  // namespace
@@ -43,7 +44,8 @@ void addSampleTicket(std::vector<ControlDesign>& controls, const SampleTicketLay
               .at(cell)
               .centred()
               .lockedBox()
-              .noTabStop());
+              .noTabStop()
+              .decoration());
     }
     controls.push_back(besideLine(line + 1, layout.left - 360, top, lineLetter(line)));
     if (layout.lineNumbers)

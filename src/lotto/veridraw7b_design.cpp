@@ -17,7 +17,7 @@ FormDesign veridraw7bDesign() {
   });
   tickets::insertAfter(controls, "TxtDrawBox", {
     label("LblLottoDraw", {840, 6705, 1335, 255}, "Lotto Numbers"),
-    textBox("TxtDrawnNumbers2", {2640, 6930, 375, 375}, "").at(7).back(colors::kBlue).fore(colors::kWhite).font(8.25, true).centred().lockedBox().noTabStop(),
+    textBox("TxtDrawnNumbers2", {2640, 6930, 375, 375}, "").at(7).back(colors::kBlue).fore(colors::kWhite).font(8.25, true).centred().lockedBox().noTabStop().read(Reading::Display).spoken("Drawn Bonus number"),
   });
   // clang-format on
   for (int k = 1; k <= 6; ++k)
@@ -25,7 +25,9 @@ FormDesign veridraw7bDesign() {
                            .at(k)
                            .centred()
                            .lockedBox()
-                           .noTabStop());
+                           .noTabStop()
+                           .read(Reading::Display)
+                           .spoken("Drawn Lotto number " + std::to_string(k)));
   for (int division = 1; division <= game.prizeRows; ++division) {
     const int top = 1800 + (division - 1) * 300;
     const std::string number = std::to_string(division);
@@ -33,13 +35,16 @@ FormDesign veridraw7bDesign() {
                            .centred()
                            .lockedBox()
                            .noTabStop()
-                           .hidden());
+                           .hidden()
+                           .read(Reading::Alert)
+                           .labelledBy("LblDivision" + number));
     controls.push_back(
         label("LblDivision" + number, {5280, top, 2150, 255}, "Division " + number + " prize")
             .hidden());
   }
 
-  const ControlDesign cell = textBox("LineA", {0, 0, 300, 250}).centred().noTabStop().hidden();
+  const ControlDesign cell =
+      textBox("LineA", {0, 0, 300, 250}).centred().noTabStop().hidden().describedBy("LblEnterLine");
   tickets::addGrid(
       controls, cell, game.mostLines, game.cellsPerLine,
       {885, tickets::kLottoGridTop, tickets::kLottoColumnStep, tickets::kLottoRowStep});
@@ -50,13 +55,16 @@ FormDesign veridraw7bDesign() {
                            .at(game.gridCells() + spare)
                            .centred()
                            .noTabStop()
-                           .hidden());
-  controls.push_back(textBox("LineA", {120, 8230, 300, 285}).at(0).noTabStop().hidden());
+                           .hidden()
+                           .decoration());
+  controls.push_back(
+      textBox("LineA", {120, 8230, 300, 285}).at(0).noTabStop().hidden().decoration());
   controls.push_back(tickets::coverBox(game, {840, 7440, 420, 285}));
 
   tickets::addPrizeGrid(
       controls, game,
-      {9450, tickets::kLottoGridTop, tickets::kLottoColumnStep, tickets::kLottoRowStep}, 250);
+      {9450, tickets::kLottoGridTop, tickets::kLottoColumnStep, tickets::kLottoRowStep}, 250,
+      tickets::matchMeanings(true));
   tickets::addLettersAndLineButtons(controls, game,
                                     {.top = tickets::kLottoGridTop,
                                      .height = 250,

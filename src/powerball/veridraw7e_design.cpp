@@ -22,10 +22,15 @@ void addPrizeRows(std::vector<ControlDesign>& controls, int rows) {
   for (int division = 1; division <= rows; ++division) {
     const int top = 1800 + (division - 1) * kPrizeRowStep;
     const std::string number = std::to_string(division);
-    const ControlDesign count =
-        textBox("", {4440, top, 375, 285}).centred().lockedBox().noTabStop().hidden();
+    const ControlDesign count = textBox("", {4440, top, 375, 285})
+                                    .centred()
+                                    .lockedBox()
+                                    .noTabStop()
+                                    .hidden()
+                                    .read(Reading::Alert);
     ControlDesign lottoCount = count;
     lottoCount.name = "TxtDivision" + number;
+    lottoCount.reader.labelledBy = "LblDivision" + number;
     controls.push_back(std::move(lottoCount));
     const int labelWidth = division == 5 ? 2105 : 2150;
     controls.push_back(
@@ -33,6 +38,7 @@ void addPrizeRows(std::vector<ControlDesign>& controls, int rows) {
             .hidden());
     ControlDesign powerBallCount = count;
     powerBallCount.name = "TxtDivPwrBall" + number;
+    powerBallCount.reader.labelledBy = "LblDivPwrBall" + number;
     controls.push_back(std::move(powerBallCount));
     controls.push_back(label("LblDivPwrBall" + number, {5040, top, 3420, 255},
                              "Division " + number + " PowerBall Prize")
@@ -42,7 +48,8 @@ void addPrizeRows(std::vector<ControlDesign>& controls, int rows) {
 
 // The number cells, their spare cells behind the notice and the cover box.
 void addTicketGrid(std::vector<ControlDesign>& controls, const tickets::TicketGame& game) {
-  const ControlDesign cell = textBox("LineA", {0, 0, 300, 250}).centred().noTabStop().hidden();
+  const ControlDesign cell =
+      textBox("LineA", {0, 0, 300, 250}).centred().noTabStop().hidden().describedBy("LblEnterLine");
   tickets::addGrid(
       controls, cell, game.mostLines, game.cellsPerLine,
       {765, tickets::kLottoGridTop, tickets::kLottoColumnStep, tickets::kLottoRowStep});
@@ -52,7 +59,8 @@ void addTicketGrid(std::vector<ControlDesign>& controls, const tickets::TicketGa
                            .at(game.gridCells() + spare)
                            .centred()
                            .noTabStop()
-                           .hidden());
+                           .hidden()
+                           .decoration());
   controls.push_back(tickets::coverBox(game, {720, 7560, 420, 285}));
 }
 
@@ -68,7 +76,9 @@ void addPowerBallEntry(std::vector<ControlDesign>& controls, int lines) {
             .font(8.25, true)
             .centred()
             .noTabStop()
-            .hidden());
+            .hidden()
+            .describedBy("LblEnterLine")
+            .spoken(tickets::lineCellName("", line, "PowerBall")));
   const int spareLefts[] = {360, 600};
   for (int spare = 1; spare <= 2; ++spare)
     controls.push_back(textBox("TxtPowerBall", {spareLefts[spare - 1], kSpareTop, 250, 285})
@@ -76,27 +86,32 @@ void addPowerBallEntry(std::vector<ControlDesign>& controls, int lines) {
                            .back(colors::kGrey)
                            .border(0)
                            .noTabStop()
-                           .hidden());
+                           .hidden()
+                           .decoration());
   controls.push_back(textBox("TxtPowerBall", {2760, 8040, 420, 520})
                          .at(lines + 3)
                          .back(colors::kPaleYellow)
                          .border(0)
                          .noTabStop()
-                         .hidden());
+                         .hidden()
+                         .decoration());
   controls.push_back(textBox("TxtPwrBallNumber", {6960, 1400, 375, 375})
                          .at(1)
                          .back(colors::kWhite)
                          .font(12, true)
                          .centred()
                          .noTabStop()
-                         .hidden());
+                         .hidden()
+                         .describedBy("TxtNoofLines")
+                         .spoken("PowerBall number for all lines"));
   const int boxLefts[] = {840, 1080, 1320};
   for (int spare = 1; spare <= 3; ++spare)
     controls.push_back(textBox("TxtPwrBallNumber", {boxLefts[spare - 1], kSpareTop, 250, 285})
                            .at(1 + spare)
                            .back(colors::kGrey)
                            .border(0)
-                           .noTabStop());
+                           .noTabStop()
+                           .decoration());
 }
 
 // The prize grid, its letters and its PowerBall column, which shows a line's
@@ -105,7 +120,8 @@ void addPowerBallEntry(std::vector<ControlDesign>& controls, int lines) {
 void addPrizeGrid(std::vector<ControlDesign>& controls, const tickets::TicketGame& game) {
   tickets::addPrizeGrid(
       controls, game,
-      {9210, tickets::kLottoGridTop, tickets::kLottoColumnStep, tickets::kLottoRowStep}, 250);
+      {9210, tickets::kLottoGridTop, tickets::kLottoColumnStep, tickets::kLottoRowStep}, 250,
+      tickets::matchMeanings(true));
   for (ControlDesign& design : controls)
     if (design.name == "IntResult" && design.index == 73) design.left = 9240;
   for (int line = 1; line <= game.mostLines; ++line) {
@@ -117,7 +133,10 @@ void addPrizeGrid(std::vector<ControlDesign>& controls, const tickets::TicketGam
             .border(0)
             .font(8.25, true)
             .centred()
-            .noTabStop();
+            .noTabStop()
+            .read(Reading::Result)
+            .spoken(tickets::lineCellName(tickets::kPrizeGridName, line, "PowerBall"))
+            .meaning(colors::kGreen, "PowerBall match");
     if (line == 1) {
       column.borderStyle = 1;
       column.height = 285;
@@ -147,21 +166,21 @@ FormDesign veridraw7eDesign() {
                                         .ticketDrawing = Picture::Lotto});
   // clang-format off
   tickets::insertAfter(controls, "List2", {
-    button("BtnYes", {5040, 2000, 800, 325}, "&Yes").hidden().tab(11),
-    button("BtnNo", {6000, 2000, 800, 325}, "&No").hidden().tab(12),
+    button("BtnYes", {5040, 2000, 800, 325}, "&Yes").hidden().tab(11).describedBy("TxtNoofLines"),
+    button("BtnNo", {6000, 2000, 800, 325}, "&No").hidden().tab(12).describedBy("TxtNoofLines"),
     label("lblPowerBall", {4650, 120, 2655, 705}, "Powerball").back(colors::kGreen).fore(colors::kWhite).font(24, true).centred(),
   });
   tickets::insertAfter(controls, "Label3", {
-    label("Label6", {5760, 1800, 15, 15}, "Label6"),
+    label("Label6", {5760, 1800, 15, 15}, "Label6").decoration(),
   });
   tickets::insertAfter(controls, "TxtDrawBox", {
     label("LblLottoDraw", {600, 6705, 1335, 255}, "Lotto Numbers"),
-    textBox("TxtDrawnNumbers2", {2400, 6930, 375, 375}).at(7).back(colors::kBlue).fore(colors::kWhite).font(8.25, true).centred().lockedBox().noTabStop(),
-    textBox("TxtDrawnNumbers2", {2880, 6930, 375, 375}).at(8).back(colors::kGreen).fore(colors::kWhite).font(8.25, true).centred().lockedBox().noTabStop(),
+    textBox("TxtDrawnNumbers2", {2400, 6930, 375, 375}).at(7).back(colors::kBlue).fore(colors::kWhite).font(8.25, true).centred().lockedBox().noTabStop().read(Reading::Display).spoken("Drawn Bonus number"),
+    textBox("TxtDrawnNumbers2", {2880, 6930, 375, 375}).at(8).back(colors::kGreen).fore(colors::kWhite).font(8.25, true).centred().lockedBox().noTabStop().read(Reading::Display).spoken("Drawn PowerBall number"),
   });
   tickets::insertAfter(controls, "LblSpaceBar", {
-    label("LblPwrBall1", {2760, 1155, 510, 345}, "Power   Ball").at(0).centred(),
-    label("LblPwrBall1", {11160, 1155, 510, 345}, "Power   Ball").at(1).centred(),
+    label("LblPwrBall1", {2760, 1155, 510, 345}, "Power   Ball").at(0).centred().decoration(),
+    label("LblPwrBall1", {11160, 1155, 510, 345}, "Power   Ball").at(1).centred().decoration(),
   });
   // clang-format on
   for (int k = 1; k <= 6; ++k)
@@ -169,7 +188,9 @@ FormDesign veridraw7eDesign() {
                            .at(k)
                            .centred()
                            .lockedBox()
-                           .noTabStop());
+                           .noTabStop()
+                           .read(Reading::Display)
+                           .spoken("Drawn Lotto number " + std::to_string(k)));
   addPrizeRows(controls, game.prizeRows);
   addTicketGrid(controls, game);
   addPowerBallEntry(controls, game.mostLines);

@@ -23,6 +23,7 @@ constexpr int kListRowHeight = 195;
 
 Control::Control(Form& form, const ControlDesign& design)
     : form_(form),
+      design_(design),
       kind_(design.kind),
       name_(design.name),
       index_(design.index),

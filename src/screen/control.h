@@ -24,6 +24,8 @@ class Control {
   int index() const { return index_; }
   bool isArrayElement() const { return index_ != kNotInArray; }
   ControlKind kind() const { return kind_; }
+  // The row of the form's design table that the control was made from.
+  const ControlDesign& design() const { return design_; }
   // "Name" or "Name(3)", as messages name it.
   std::string displayName() const;
 
@@ -114,6 +116,7 @@ class Control {
   }
 
   Form& form_;
+  const ControlDesign& design_;
   ControlKind kind_;
   std::string name_;
   int index_;

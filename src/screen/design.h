@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 #include "screen/picture.h"
 
@@ -33,6 +34,33 @@ inline constexpr std::int32_t kButtonFace = 0xC0C0C0;
 inline constexpr int kNotInArray = -1;
 inline constexpr int kDefault = -1;
 
+// How a screen reader takes a control, beyond what its kind says.
+enum class Reading {
+  AsItsKind,   // a button, a box that takes numbers, a list, a label: as what it is
+  Decoration,  // never read: it only adorns the screen or serves the program's mechanics
+  Display,     // a box that only shows words or numbers: read as text, never as an entry
+  Result,      // a cell of a result: read only while it holds something, with its meaning
+  Prompt,      // says what to type next: announced when it comes or changes
+  Alert,       // a verdict or a count of prizes: announced when it comes or changes
+};
+
+// What a result cell means when it stands in a colour: the first whose
+// background matches wins, and kDefault matches any.
+struct Meaning {
+  std::int32_t backColor = kDefault;
+  std::string words;
+};
+
+// What a screen reader is told of a control. Every name refers to a control of
+// the same form, not an element of an array.
+struct ReaderDesign {
+  Reading reading = Reading::AsItsKind;
+  std::string name;         // the spoken name, when neither caption nor partner gives it
+  std::string labelledBy;   // the label whose caption is the name
+  std::string describedBy;  // the control whose words describe it while both are shown
+  std::vector<Meaning> meanings;
+};
+
 struct ControlDesign {
   ControlKind kind = ControlKind::Label;
   std::string name;
@@ -56,6 +84,7 @@ struct ControlDesign {
   Alignment alignment = Alignment::Left;
   Picture picture = Picture::None;  // the drawing on an image, a document or a picture button
   bool focusOnClick = true;         // false: a click leaves the focus where it is
+  ReaderDesign reader;
 
   // Modifiers, so that a design table reads one control to a line.
   ControlDesign&& at(int element) && { return index = element, std::move(*this); }
@@ -80,6 +109,22 @@ struct ControlDesign {
   ControlDesign&& border(int value) && { return borderStyle = value, std::move(*this); }
   ControlDesign&& centred() && { return alignment = Alignment::Center, std::move(*this); }
   ControlDesign&& drawing(Picture value) && { return picture = value, std::move(*this); }
+  // For screen readers.
+  ControlDesign&& read(Reading value) && { return reader.reading = value, std::move(*this); }
+  ControlDesign&& decoration() && { return std::move(*this).read(Reading::Decoration); }
+  ControlDesign&& spoken(std::string value) && {
+    return reader.name = std::move(value), std::move(*this);
+  }
+  ControlDesign&& labelledBy(std::string value) && {
+    return reader.labelledBy = std::move(value), std::move(*this);
+  }
+  ControlDesign&& describedBy(std::string value) && {
+    return reader.describedBy = std::move(value), std::move(*this);
+  }
+  ControlDesign&& meaning(std::int32_t colour, std::string words) && {
+    reader.meanings.push_back({colour, std::move(words)});
+    return std::move(*this);
+  }
 };
 
 // A place on the form in twips: left, top, width, height.

@@ -52,12 +52,12 @@ FormDesign veridraw7dDesign() {
     label("Label12", {1680, 5250, 1215, 225}, "Contact").font(8.25, true),
     label("Label13", {1680, 5520, 8175, 255}, kContact),
     label("Label6", {1680, 6600, 8160, 585}, kDisclaimer).hidden(),
-    textBox("Text2", {1680, 7320, 8295, 585}, kUseNotice).hidden().lockedBox().noTabStop(),
-    textBox("Text3", {1680, 7515, 4335, 200}, kCopyNotice).hidden().lockedBox().noTabStop().border(0),
+    textBox("Text2", {1680, 7320, 8295, 585}, kUseNotice).hidden().lockedBox().noTabStop().read(Reading::Display),
+    textBox("Text3", {1680, 7515, 4335, 200}, kCopyNotice).hidden().lockedBox().noTabStop().border(0).read(Reading::Display),
     document("OLE1", {240, 240, 1095, 735}, Picture::DocumentContact),
     document("OLE3", {8760, 1080, 2895, 1095}, Picture::DocumentNotes),
     document("OLE4", {10200, 6000, 1455, 1095}, Picture::DocumentLotto),
-    document("OLE5", {240, 7800, 615, 615}, Picture::Mark),
+    document("OLE5", {240, 7800, 615, 615}, Picture::Mark).decoration(),
     document("OLE6", {10560, 240, 1095, 735}, Picture::DocumentContact),
   };
   // clang-format on

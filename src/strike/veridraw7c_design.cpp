@@ -53,7 +53,9 @@ FormDesign veridraw7cDesign() {
                            .at(p)
                            .centred()
                            .lockedBox()
-                           .noTabStop());
+                           .noTabStop()
+                           .read(Reading::Display)
+                           .spoken("Drawn Strike number " + std::to_string(p)));
   }
   // The prize rows, Strike 1 (told as a Bonus Ticket) to Strike 4, each a
   // count box and a label, from 1800 down.
@@ -64,7 +66,9 @@ FormDesign veridraw7cDesign() {
                            .centred()
                            .lockedBox()
                            .noTabStop()
-                           .hidden());
+                           .hidden()
+                           .read(Reading::Alert)
+                           .labelledBy("LblStrike" + number));
     controls.push_back(
         label("LblStrike" + number, {5490, top, 2000, 255}, "Strike " + number + " prize")
             .hidden());
@@ -80,10 +84,15 @@ FormDesign veridraw7cDesign() {
                            .border(0)
                            .centred()
                            .lockedBox()
-                           .noTabStop());
+                           .noTabStop()
+                           .decoration());
   }
 
-  const ControlDesign cell = textBox("TxtStrike", {0, 0, 300, 285}).centred().noTabStop().hidden();
+  const ControlDesign cell = textBox("TxtStrike", {0, 0, 300, 285})
+                                 .centred()
+                                 .noTabStop()
+                                 .hidden()
+                                 .describedBy("LblEnterLine");
   tickets::addGrid(controls, cell, game.mostLines, game.cellsPerLine,
                    {855, kGridTop, kColumnStep, kRowStep});
   // The spare cell of a twelve-line ticket and the two that only the walk
@@ -95,10 +104,12 @@ FormDesign veridraw7cDesign() {
                            .back(colors::kGrey)
                            .centred()
                            .noTabStop()
-                           .hidden());
+                           .hidden()
+                           .decoration());
   controls.push_back(tickets::coverBox(game, {830, 7560, 1740, 300}));
 
-  tickets::addPrizeGrid(controls, game, {9285, kGridTop, kColumnStep, kRowStep}, 285);
+  tickets::addPrizeGrid(controls, game, {9285, kGridTop, kColumnStep, kRowStep}, 285,
+                        tickets::matchMeanings(false));
   moveElement(controls, "IntResult", 46, 4800);
   tickets::addLettersAndLineButtons(controls, game,
                                     {.top = kGridTop,

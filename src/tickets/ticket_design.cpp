@@ -15,7 +15,8 @@ ControlDesign coverBox(const TicketGame& game, Place place) {
       .border(0)
       .lockedBox()
       .noTabStop()
-      .hidden();
+      .hidden()
+      .decoration();
 }
 
 void addTicketControls(std::vector<ControlDesign>& controls, const TicketLook& look) {
@@ -32,33 +33,33 @@ void addTicketControls(std::vector<ControlDesign>& controls, const TicketLook& l
     button("BtnCancel", {left + 1200, 8040, 975, 375}, "&Cancel").tip("Cancel this action").back(colors::kPaleYellow).hidden().tab(5),
     button("CmdEnd", {left + 2280, 8040, 975, 375}, "E&xit").tip("Exit Veridraw").back(colors::kPaleYellow).tab(6),
     button("BtnDeleteTicket", {look.deleteLeft, 7560, 1095, 255}, "Delete Ticket").back(colors::kPaleYellow).hidden().tab(7),
-    listBox("List1", {4980, 4560, 735, 1230}).tip("Draw Numbers").hidden().tab(8),
-    listBox("LstLottoTicket", {5805, 4560, 1095, 1230}).tip("Saved Tickets").hidden().tab(9),
-    listBox("List2", {7680, 7200, 1095, 1230}).tip("Saved Tickets").tab(10),
+    listBox("List1", {4980, 4560, 735, 1230}).tip("Draw Numbers").hidden().tab(8).describedBy("LblDrawsAvailable"),
+    listBox("LstLottoTicket", {5805, 4560, 1095, 1230}).tip("Saved Tickets").hidden().tab(9).describedBy("LblSavedTickets"),
+    listBox("List2", {7680, 7200, 1095, 1230}).tip("Saved Tickets").tab(10).describedBy("LblSavedTickets2"),
 
     label("Label3", {330, 840, 2775, 375}, "Lotto Veridraw").font(12, true),
     label("LblDraw", look.drawLabel, "Current Draw Number"),
-    textBox("TxtDrawBox", look.drawBox, look.drawBoxText).font(12, true).centred().lockedBox().noTabStop(),
+    textBox("TxtDrawBox", look.drawBox, look.drawBoxText).font(12, true).centred().lockedBox().noTabStop().read(Reading::Display).labelledBy("LblDraw"),
 
     label("LblSavedTickets2", {7875, 6720, 735, 375}, "Saved Tickets"),
     label("LblDrawsAvailable", {5040, 5850, 735, 375}, "Draws Entered").hidden(),
     label("LblSavedTickets", {6000, 5850, 735, 375}, "Saved Tickets").hidden(),
     label("LbLchangeDraw", {3480, 5160, 1395, 450}, "Click to change ---> the draw number").back(colors::kYellow).fore(colors::kRed).hidden(),
     label("LbLchangeTicket", {7020, 5160, 1395, 450}, look.changeTicketCaption).back(colors::kYellow).fore(colors::kRed).hidden(),
-    label("LblSaved", {look.savedLeft, 6360, 3255, 330}, "Ticket has been Saved").back(colors::kPaleYellow).centred().hidden(),
+    label("LblSaved", {look.savedLeft, 6360, 3255, 330}, "Ticket has been Saved").back(colors::kPaleYellow).centred().hidden().read(Reading::Alert),
 
-    textBox("TxtNoofLines", look.linesPrompt, look.linesPromptCaption).font(look.linesPromptFont).lockedBox().noTabStop().hidden(),
-    label("LblEnterLine", look.enterLine, enterLine).back(colors::kDarkBlue).fore(colors::kWhite).hidden(),
+    textBox("TxtNoofLines", look.linesPrompt, look.linesPromptCaption).font(look.linesPromptFont).lockedBox().noTabStop().hidden().read(Reading::Prompt),
+    label("LblEnterLine", look.enterLine, enterLine).back(colors::kDarkBlue).fore(colors::kWhite).hidden().read(Reading::Prompt),
     label("LblSpaceBar", {8880, 6480, 2655, 615}, "To correct errors  backtrack with the Space Bar").back(colors::kOrange).fore(colors::kWhite).hidden(),
 
-    textBox("TxtLottoPrizes", look.prizesHeading, look.prizesHeadingCaption).font(10, true).centred().lockedBox().noTabStop(),
-    label("LblYouveWon", look.youveWon, "").font(12, true).centred().hidden(),
-    image("ImgMoney", {360, 1800, 2655, 1215}, Picture::Money).hidden(),
-    image("ImgCoins", {570, 3720, 2295, 1500}, Picture::Coins).hidden(),
-    image("Image1", {450, 5280, 1050, 600}, look.ballsDrawing),
-    image("Image2", {1890, 5280, 975, 615}, look.ticketDrawing),
-    image("Image3", {8970, 5280, 1050, 600}, look.ballsDrawing),
-    image("Image4", {10290, 5280, 975, 615}, look.ticketDrawing),
+    textBox("TxtLottoPrizes", look.prizesHeading, look.prizesHeadingCaption).font(10, true).centred().lockedBox().noTabStop().read(Reading::Display),
+    label("LblYouveWon", look.youveWon, "").font(12, true).centred().hidden().read(Reading::Alert),
+    image("ImgMoney", {360, 1800, 2655, 1215}, Picture::Money).hidden().decoration(),
+    image("ImgCoins", {570, 3720, 2295, 1500}, Picture::Coins).hidden().decoration(),
+    image("Image1", {450, 5280, 1050, 600}, look.ballsDrawing).decoration(),
+    image("Image2", {1890, 5280, 975, 615}, look.ticketDrawing).decoration(),
+    image("Image3", {8970, 5280, 1050, 600}, look.ballsDrawing).decoration(),
+    image("Image4", {10290, 5280, 975, 615}, look.ticketDrawing).decoration(),
   };
   // clang-format on
   controls.insert(controls.end(), std::begin(shared), std::end(shared));
@@ -77,7 +78,13 @@ void insertAfter(std::vector<ControlDesign>& controls, std::string_view name,
 
 void addNotice(std::vector<ControlDesign>& controls) {
   controls.push_back(pictureButton("CmdNotice", {120, 8160, 2655, 375}, Picture::Notice)
-                         .tip("Veridraw is free software under the GNU GPL, version 3 or later"));
+                         .tip("Veridraw is free software under the GNU GPL, version 3 or later")
+                         .decoration());
+}
+
+std::string lineCellName(const std::string& grid, int line, const std::string& place) {
+  const std::string letter(1, LineLetter(line));
+  return (grid.empty() ? "Line " : grid + ", line ") + letter + ", " + place;
 }
 
 void addGrid(std::vector<ControlDesign>& controls, const ControlDesign& cell, int lines,
@@ -85,6 +92,8 @@ void addGrid(std::vector<ControlDesign>& controls, const ControlDesign& cell, in
   for (int k = 1; k <= lines * perLine; ++k) {
     ControlDesign element = cell;
     element.index = k;
+    element.reader.name = lineCellName(cell.reader.name, (k - 1) / perLine + 1,
+                                       "number " + std::to_string((k - 1) % perLine + 1));
     element.left = layout.left + (k - 1) % perLine * layout.columnStep;
     element.top = layout.top + (k - 1) / perLine * layout.rowStep;
     controls.push_back(std::move(element));
@@ -120,7 +129,8 @@ void addLettersAndLineButtons(std::vector<ControlDesign>& controls, const Ticket
           .back(colors::kPaleYellow)
           .border(0)
           .lockedBox()
-          .noTabStop();
+          .noTabStop()
+          .decoration();
   addLineLetters(controls, letter, game.mostLines, rowStep);
   ControlDesign prizeLetter = letter;
   prizeLetter.name = "TextBTxt";
@@ -130,7 +140,8 @@ void addLettersAndLineButtons(std::vector<ControlDesign>& controls, const Ticket
   addLineButtons(controls,
                  button("", {columns.buttonLeft, columns.buttonTop, 855, columns.height}, "")
                      .back(colors::kPaleYellow)
-                     .hidden(),
+                     .hidden()
+                     .describedBy("TxtNoofLines"),
                  game.lineButtons, rowStep);
 }
 
@@ -138,13 +149,23 @@ void addLettersAndLineButtons(std::vector<ControlDesign>& controls, const Ticket
 constexpr int kPrizeCellWidth = 300;
 
 void addPrizeGrid(std::vector<ControlDesign>& controls, const TicketGame& game,
-                  const GridLayout& layout, int cellHeight) {
-  const ControlDesign result = textBox("IntResult", {0, 0, kPrizeCellWidth, cellHeight})
-                                   .back(colors::kPaleYellow)
-                                   .border(0)
-                                   .centred()
-                                   .noTabStop();
+                  const GridLayout& layout, int cellHeight, std::vector<Meaning> meanings) {
+  ControlDesign result = textBox("IntResult", {0, 0, kPrizeCellWidth, cellHeight})
+                             .back(colors::kPaleYellow)
+                             .border(0)
+                             .centred()
+                             .noTabStop()
+                             .read(Reading::Result)
+                             .spoken(kPrizeGridName);
+  result.reader.meanings = std::move(meanings);
   addGrid(controls, result, game.mostLines, game.cellsPerLine, layout);
+}
+
+std::vector<Meaning> matchMeanings(bool bonusInBlue) {
+  std::vector<Meaning> meanings;
+  if (bonusInBlue) meanings.push_back({colors::kBlue, "bonus match"});
+  meanings.push_back({kDefault, "matched"});
+  return meanings;
 }
 
 }  // namespace veridraw::tickets

@@ -71,15 +71,29 @@ struct GridLayout {
   int rowStep = 0;
 };
 
+// The spoken name of a cell of a grid: "Line B, number 3", or under the
+// grid's own name, "Prize grid, line B, PowerBall".
+std::string lineCellName(const std::string& grid, int line, const std::string& place);
+
+// The name under which a screen reader reads the cells of a prize grid.
+inline constexpr const char* kPrizeGridName = "Prize grid";
+
 // Elements 1 to lines x perLine of the control array of `cell`, row by row:
 // element k at column ((k - 1) mod perLine) and row ((k - 1) div perLine).
+// Each is named for screen readers by its line and place, under the name that
+// `cell` gives the grid, if any.
 void addGrid(std::vector<ControlDesign>& controls, const ControlDesign& cell, int lines,
              int perLine, GridLayout layout);
 
 // The prize grid IntResult of a game: a cell for each cell of the ticket, pale
-// yellow, without a border, filled only by the check.
+// yellow, without a border, filled only by the check; `meanings` tell a screen
+// reader what a filled cell's colour says.
 void addPrizeGrid(std::vector<ControlDesign>& controls, const TicketGame& game,
-                  const GridLayout& layout, int cellHeight);
+                  const GridLayout& layout, int cellHeight, std::vector<Meaning> meanings);
+
+// What a filled cell of a prize grid says: a number that the draw has, and
+// where the check paints the bonus blue, the bonus.
+std::vector<Meaning> matchMeanings(bool bonusInBlue);
 
 // Elements 1 to `lines` of the control array of `letter`, "A." to "O." with no
 // I, one a row from the letter's own Top.

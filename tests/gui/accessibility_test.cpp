@@ -82,17 +82,19 @@ class AccessibilityTest : public QObject, public ScreenChecks {
     expectButton("CmdForm1Exit", "Exit", "Alt+X", "focusable");
     expect("Label5", QAccessible::StaticText, "Check your Lotto tickets for prizes");
     expectStates("Label5", "");
-    // Pictures are named by what they show, their tool-tip is their description.
-    expectButton("Btn1Lotto", "Lotto", "", "focusable");
-    QCOMPARE(object("Btn1Lotto").text(QAccessible::Description), "PRESS ENTER");
+    // A document is named by what it shows.
     expect("OLE1", QAccessible::Graphic, "Lotto: Six numbers from 1 to 40 and a Bonus number.");
-    expect("OLE7", QAccessible::Graphic, "Veridraw mark");
-    expect("CmdNotice", QAccessible::Button, "Veridraw is free software under the GNU GPL, version 3 or later");
-    // The sample ticket: its cells by line and place, its letters by themselves.
-    expect("LineA", QAccessible::EditableText, "Line B, number 3", 9);
-    QCOMPARE(object("LineA", 9).text(QAccessible::Value), "14");
-    expectStates("LineA", "focusable readOnly", 9);
-    expect("TextATxt", QAccessible::EditableText, "B.", 2);
+    expectShownToReader("OLE1", true);
+    // Decoration is kept from the reader: the pictures that only look like
+    // buttons, the marks, the sample ticket with its letters and line numbers.
+    for (const char* decoration :
+         {"Btn1Lotto", "Btn2Strike", "BtnPowerBall", "CmdNotice", "OLE7", "Label1", "Label6"})
+      expectShownToReader(decoration, false);
+    expectShownToReader("LineA", false, 9);
+    expectStates("LineA", "invisible", 9);
+    expectShownToReader("TextATxt", false, 2);
+    expectShownToReader("TextATxt", false, 7);
+    QCOMPARE(readerObjects(), 11);
   }
 
   void aButtonIsPressedFromTheScreenReader() {
@@ -123,23 +125,30 @@ class AccessibilityTest : public QObject, public ScreenChecks {
                  "focused focusable");
     expect("BtnCancel", QAccessible::Button, "Cancel");
     expectStates("BtnCancel", "invisible");
-    expect("TxtDrawBox", QAccessible::EditableText, "Current Draw Number");
+    // A box that only shows the draw reads as text, named by its label,
+    // which is then not read on its own.
+    expect("TxtDrawBox", QAccessible::StaticText, "Current Draw Number");
     QCOMPARE(object("TxtDrawBox").text(QAccessible::Value), "1105");
-    expectStates("TxtDrawBox", "focusable readOnly");
-    expect("TxtDrawnNumbers2", QAccessible::EditableText, "Drawn Lotto number 3", 3);
+    expectStates("TxtDrawBox", "");
+    expectShownToReader("LblDraw", false);
+    expect("TxtDrawnNumbers2", QAccessible::StaticText, "Drawn Lotto number 3", 3);
     QCOMPARE(object("TxtDrawnNumbers2", 3).text(QAccessible::Value), "19");
-    expect("TxtDrawnNumbers2", QAccessible::EditableText, "Drawn Bonus number", 7);
+    expect("TxtDrawnNumbers2", QAccessible::StaticText, "Drawn Bonus number", 7);
+    // The cells that take the numbers: hidden until the entry starts.
     expect("TxtDrawnNumbers", QAccessible::EditableText, "Lotto number 3", 3);
     expectStates("TxtDrawnNumbers", "invisible readOnly", 3);
-    expect("TxtDrawnNumbers", QAccessible::EditableText, "PowerBall number", 8);
+    expect("TxtDrawnNumbers", QAccessible::EditableText, "Power Ball", 8);
     expect("TxtStrikeNumbers", QAccessible::EditableText, "Strike number 2", 2);
-    expect("TxtDrawnNumbers", QAccessible::EditableText, "Spare cell", 9);
     expect("LblPwrBall", QAccessible::StaticText, "Power Ball");
     expectStates("LblPwrBall", "invisible");
-    // The results panel: each count named by the row's caption beside it.
-    expect("IntResult", QAccessible::EditableText, "Division 2 prize", 2);
-    QCOMPARE(object("IntResult", 2).text(QAccessible::Value), "0");
-    expect("Image1", QAccessible::Graphic, "Lotto");
+    // The spare cells behind the notice, the panel that only pictures the
+    // prize rows, the pictures: decoration.
+    expectShownToReader("TxtDrawnNumbers", false, 9);
+    expectShownToReader("TxtStrikeNumbers", false, 5);
+    expectShownToReader("IntResult", false, 2);
+    expectShownToReader("TextBTxt", false, 2);
+    expectShownToReader("Image1", false);
+    expectShownToReader("CmdNotice", false);
 
     // A list: its tool-tip names it, its items are its children.
     QAccessibleInterface& draws = object("List1");
@@ -181,13 +190,18 @@ class AccessibilityTest : public QObject, public ScreenChecks {
     program_->window()->activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(program_->window()));
     QTRY_VERIFY(!focusMoves().empty() && focusMoves().back() == first);
-    expectStates("TxtDrawnNumbers", "focused focusable", 1);
+    expectStates("TxtDrawnNumbers", "focused focusable editable", 1);
     expectStates("TxtDrawnNumbers", "focusable readOnly", 2);
+    // The prompt is what the focused cell's description says.
+    QCOMPARE(object("TxtDrawnNumbers", 1).text(QAccessible::Description),
+             "Enter Numbers in either drawn or numeric order");
 
     heard().clear();
     type("0");
     QCOMPARE(object("TxtDrawnNumbers", 1).text(QAccessible::Value), "0 ");
-    QCOMPARE(timesHeard(QAccessible::TextUpdated, first), 1);
+    // The typed character alone is told, not the whole text anew.
+    QCOMPARE(timesHeard(QAccessible::TextInserted, first), 1);
+    QCOMPARE(timesHeard(QAccessible::TextUpdated, first), 0);
     QCOMPARE(timesHeard(QAccessible::ValueChanged, first), 1);
     QVERIFY(focusMoves().empty());
     type("1");
@@ -197,12 +211,32 @@ class AccessibilityTest : public QObject, public ScreenChecks {
     QAccessibleInterface* window = QAccessible::queryAccessibleInterface(program_->window());
     QCOMPARE(window->focusChild(), &object("TxtDrawnNumbers", 2));
     expectStates("TxtDrawnNumbers", "focusable readOnly", 1);
-    expectStates("TxtDrawnNumbers", "focused focusable", 2);
+    expectStates("TxtDrawnNumbers", "focused focusable editable", 2);
     // The text of the cell that was left, as an editor would read it.
     QAccessibleTextInterface* text = object("TxtDrawnNumbers", 1).textInterface();
     QVERIFY(text != nullptr);
     QCOMPARE(text->characterCount(), 3);
     QCOMPARE(text->text(0, 2), "01");
+    // The characters stand where the painter drew them: every dark pixel of
+    // the cell's text lies in the rectangle of the "0" or of the "1", and each
+    // of the two holds some.
+    const QImage painted = first->grab().toImage();
+    const QRect zero(first->mapFromGlobal(text->characterRect(0).topLeft()),
+                     text->characterRect(0).size());
+    const QRect one(first->mapFromGlobal(text->characterRect(1).topLeft()),
+                    text->characterRect(1).size());
+    QVERIFY(!zero.isEmpty() && !one.isEmpty() && zero.right() < one.left() + 1);
+    int inZero = 0;
+    int inOne = 0;
+    const QRect inside = first->rect().adjusted(2, 2, -2, -2);
+    for (int y = inside.top(); y <= inside.bottom(); ++y)
+      for (int x = inside.left(); x <= inside.right(); ++x) {
+        if (qGray(painted.pixel(x, y)) > 96) continue;
+        QVERIFY2(zero.contains(x, y) || one.contains(x, y),
+                 qPrintable(QString("ink at %1,%2").arg(x).arg(y)));
+        ++(zero.contains(x, y) ? inZero : inOne);
+      }
+    QVERIFY(inZero > 0 && inOne > 0);
   }
 
   void aCaptionThatChangesIsAnnounced() {
@@ -217,7 +251,11 @@ class AccessibilityTest : public QObject, public ScreenChecks {
     type("030812172239");
     expect("LblEnterLine", QAccessible::StaticText, "Line B -- Enter the 6 Two Digit numbers");
     QVERIFY(timesHeard(QAccessible::NameChanged, prompt) >= 1);
-    expectStates("LineA", "focused focusable", 7);
+    expectStates("LineA", "focused focusable editable", 7);
+    // The focused cell's description says it: the prompt is not said again.
+    QCOMPARE(object("LineA", 7).text(QAccessible::Description),
+             "Line B -- Enter the 6 Two Digit numbers");
+    QCOMPARE(timesHeard(QAccessible::Alert, prompt), 0);
   }
 
   void theLottoScreenReadsAsItsControls() {
@@ -228,13 +266,18 @@ class AccessibilityTest : public QObject, public ScreenChecks {
     expect("LineA", QAccessible::EditableText, "Line B, number 3", 9);
     expect("LineA", QAccessible::EditableText, "Line J, number 1", 49);
     expect("LineA", QAccessible::EditableText, "Line O, number 6", 84);
-    expect("LineA", QAccessible::EditableText, "Spare cell", 85);
-    expect("IntResult", QAccessible::EditableText, "Prize grid, line B, number 1", 7);
+    expectShownToReader("LineA", false, 85);
+    // An empty cell of the prize grid is not read.
+    expect("IntResult", QAccessible::StaticText, "Prize grid, line B, number 1", 7);
+    expectShownToReader("IntResult", false, 7);
     expectButton("BtnLineM", "Line M", "Alt+M", "invisible");
-    expect("TxtDivision1", QAccessible::EditableText, "Division 1 prize");
-    expect("TxtLottoPrizes", QAccessible::EditableText, "LOTTO PRIZES");
+    expect("TxtDivision1", QAccessible::StaticText, "Division 1 prize");
+    expect("TxtLottoPrizes", QAccessible::StaticText, "LOTTO PRIZES");
+    QCOMPARE(object("TxtLottoPrizes").text(QAccessible::Value), "");
     expect("List2", QAccessible::List, "Saved Tickets");
-    expect("Image1", QAccessible::Graphic, "Lotto draw machine");
+    expectShownToReader("LblSavedTickets2", false);
+    expectShownToReader("Image1", false);
+    expectShownToReader("TextATxt", false, 1);
     expect("LblYouveWon", QAccessible::StaticText, "");
   }
 
@@ -244,9 +287,9 @@ class AccessibilityTest : public QObject, public ScreenChecks {
     expect("TxtStrike", QAccessible::EditableText, "Line A, number 4", 4);
     expect("TxtStrike", QAccessible::EditableText, "Line B, number 2", 6);
     expect("TxtStrike", QAccessible::EditableText, "Line M, number 4", 48);
-    expect("TxtStrike1", QAccessible::EditableText, "Strike 1 prize");
-    expect("Txt1ST", QAccessible::EditableText, "2ND", 2);
-    expect("IntResult", QAccessible::EditableText, "Prize grid, line C, number 4", 12);
+    expect("TxtStrike1", QAccessible::StaticText, "Strike 1 prize");
+    expectShownToReader("Txt1ST", false, 2);
+    expect("IntResult", QAccessible::StaticText, "Prize grid, line C, number 4", 12);
     expectButton("BtnLineC", "Line C", "Alt+C", "invisible");
   }
 
@@ -255,11 +298,81 @@ class AccessibilityTest : public QObject, public ScreenChecks {
     expectEveryControlNamed();
     expect("LineA", QAccessible::EditableText, "Line C, number 2", 14);
     expect("TxtPowerBall", QAccessible::EditableText, "Line B, PowerBall", 2);
-    expect("TxtPwrBall", QAccessible::EditableText, "Prize grid, line C, PowerBall", 3);
+    expect("TxtPwrBall", QAccessible::StaticText, "Prize grid, line C, PowerBall", 3);
     expect("TxtPwrBallNumber", QAccessible::EditableText, "PowerBall number for all lines", 1);
-    expect("TxtDivision1", QAccessible::EditableText, "Division 1 prize");
-    expect("TxtDivPwrBall1", QAccessible::EditableText, "Division 1 PowerBall Prize");
-    expect("LblPwrBall1", QAccessible::StaticText, "Power Ball", 0);
+    expectShownToReader("TxtPwrBallNumber", false, 2);
+    expect("TxtDivision1", QAccessible::StaticText, "Division 1 prize");
+    expect("TxtDivPwrBall1", QAccessible::StaticText, "Division 1 PowerBall Prize");
+    // The stray label and the headings over the PowerBall columns are decoration.
+    expectShownToReader("Label6", false);
+    expectShownToReader("LblPwrBall1", false, 0);
+  }
+
+  void aCompleteTicketReadsItsMatchesAndNotTheCellUnderTheCover() {
+    makeDraw705Current(*program_);
+    openTicketScreen(*program_, "Btn1Lotto");
+    QTest::keyClick(program_->window(), Qt::Key_N, Qt::AltModifier);
+    // The prompt of the length is said: the focus is elsewhere.
+    QVERIFY(timesHeard(QAccessible::Alert, program_->view("TxtNoofLines")) == 1);
+    QTest::keyClick(program_->window(), Qt::Key_D, Qt::AltModifier);
+    type("010308121722010204050607010204050607010204050607");
+    // The focus was parked on the cell after the ticket, and the cover box
+    // stands over it: neither is read, nor named as another line.
+    expectShownToReader("LineA", false, 25);
+    expectShownToReader("LineA", false, 88);
+    expectShownToReader("LineA", true, 24);
+    // A filled cell of the prize grid says what matched, and how.
+    expectShownToReader("IntResult", true, 4);
+    QCOMPARE(object("IntResult", 4).text(QAccessible::Value), "12 ");
+    QCOMPARE(object("IntResult", 4).text(QAccessible::Description), "bonus match");
+    QCOMPARE(object("IntResult", 2).text(QAccessible::Description), "matched");
+    expectShownToReader("IntResult", false, 1);
+
+    heard().clear();
+    QTest::keyClick(program_->window(), Qt::Key_C, Qt::AltModifier);
+    // The verdict and the prize row are said once each.
+    QCOMPARE(timesHeard(QAccessible::Alert, program_->view("LblYouveWon")), 1);
+    QCOMPARE(object("LblYouveWon").text(QAccessible::Name), "CONGRATULATIONS You've WON !!!");
+    QCOMPARE(timesHeard(QAccessible::Alert, program_->view("TxtDivision4")), 1);
+    expect("TxtDivision4", QAccessible::StaticText, "Division 4 Prize");
+    QCOMPARE(object("TxtDivision4").text(QAccessible::Value), "1");
+    expectShownToReader("LblDivision4", false);
+  }
+
+  void aPowerBallMatchIsToldApart() {
+    program_->writeFile("DrawNumber", "720\r\n");
+    program_->writeFile("720", "720\r\nX0308172239401205\r\n\r\n");
+    openTicketScreen(*program_, "BtnPowerBall");
+    QTest::keyClick(program_->window(), Qt::Key_N, Qt::AltModifier);
+    QTest::keyClick(program_->window(), Qt::Key_D, Qt::AltModifier);
+    type("030817223940030812172930010203172239010204050607");
+    // The question of one number for all lines describes its answers.
+    expectFocus("BtnYes");
+    QCOMPARE(object("BtnYes").text(QAccessible::Description),
+             QString::fromStdString(control("TxtNoofLines").text()).simplified());
+    QTest::keyClick(program_->window(), Qt::Key_Y, Qt::AltModifier);
+    type("05");
+    expectShownToReader("TxtPwrBall", true, 2);
+    expect("TxtPwrBall", QAccessible::StaticText, "Prize grid, line B, PowerBall", 2);
+    QCOMPARE(object("TxtPwrBall", 2).text(QAccessible::Description), "PowerBall match");
+    QCOMPARE(object("IntResult", 1).text(QAccessible::Description), "matched");
+  }
+
+  void aQuestionDescribesTheButtonsThatAnswerIt() {
+    openDrawScreen();
+    pressAndAnswer(Qt::Key_Return, {}, "1106");
+    type("0308172239401202");
+    expectFocus("BtnYes");
+    QCOMPARE(object("BtnYes").text(QAccessible::Description), "Are these numbers correct?");
+    QCOMPARE(object("BtnNo").text(QAccessible::Description), "Are these numbers correct?");
+    expectShownToReader("LblCorrectNumbers", false);
+  }
+
+  void aPictureButtonSaysWhatItDoes() {
+    openDrawScreen();
+    QTest::keyClick(program_->window(), Qt::Key_Y, Qt::AltModifier);
+    expectButton("Btn1Lotto", "Start Lotto", "", "focusable");
+    QCOMPARE(object("Btn1Lotto").text(QAccessible::Description), "Click to start Lotto");
   }
 
   // Not a check: prints the tree of the draw screen as a screen reader walks it.
@@ -304,17 +417,34 @@ class AccessibilityTest : public QObject, public ScreenChecks {
     expectStates(name, states);
   }
 
-  // No control is left a nameless pane: each has the role of its kind and a
-  // name, but a label without a caption.
+  // No control is left a nameless pane: each has the role of its kind, and
+  // each that the reader finds in the window has a name and is shown.
   void expectEveryControlNamed() {
+    QAccessibleInterface* window = QAccessible::queryAccessibleInterface(program_->window());
     for (ControlView* view : program_->window()->views()) {
       QAccessibleInterface* found = QAccessible::queryAccessibleInterface(view);
       QVERIFY(found != nullptr);
       const QByteArray what = QByteArray::fromStdString(view->controlName()) + "(" +
                               QByteArray::number(view->controlIndex()) + ")";
       QVERIFY2(found->role() != QAccessible::Client, what);
-      QVERIFY2(!found->text(QAccessible::Name).isEmpty() || view->look().text.isEmpty(), what);
+      if (window->indexOfChild(found) < 0) continue;
+      QVERIFY2(!found->text(QAccessible::Name).isEmpty(), what);
+      QVERIFY2(!found->state().invisible, what);
+      QCOMPARE(found->parent(), window);
     }
+  }
+
+  // Whether the reader finds the control among the window's objects; a
+  // control that it doesn't find says it is invisible.
+  void expectShownToReader(const char* name, bool shown, int index = kNotInArray) {
+    QAccessibleInterface* window = QAccessible::queryAccessibleInterface(program_->window());
+    QAccessibleInterface& found = object(name, index);
+    QVERIFY2((window->indexOfChild(&found) >= 0) == shown, name);
+    QVERIFY2(found.state().invisible == !shown, name);
+  }
+
+  int readerObjects() {
+    return QAccessible::queryAccessibleInterface(program_->window())->childCount();
   }
 };
 

@@ -43,6 +43,7 @@ QString stateWords(const QAccessible::State& state) {
   QStringList words;
   if (state.focused) words << "focused";
   if (state.focusable) words << "focusable";
+  if (state.editable) words << "editable";
   if (state.invisible) words << "invisible";
   if (state.readOnly) words << "readOnly";
   if (state.disabled) words << "disabled";

@@ -10,7 +10,7 @@
 namespace veridraw::gui::testing {
 
 QString roleName(QAccessible::Role role);
-// "focused focusable readOnly", in that order, of those that are set.
+// "focused focusable editable readOnly", in that order, of those that are set.
 QString stateWords(const QAccessible::State& state);
 // One object: role "name" = "value" [shortcut] (states).
 QString describe(QAccessibleInterface& object);

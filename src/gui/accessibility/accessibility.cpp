@@ -3,9 +3,10 @@
 #include <QAccessible>
 #include <QAccessibleWidget>
 #include <QApplication>
-#include <QFontMetrics>
 #include <QPointer>
 #include <QWindow>
+#include <algorithm>
+#include <utility>
 #include <vector>
 
 #include "gui/accessibility/accessible_names.h"
@@ -50,6 +51,37 @@ const Control* controlOf(const ControlView& view) {
   return window != nullptr ? window->controlOf(view) : nullptr;
 }
 
+// Whether a view that is shown lies wholly under another shown view that is
+// drawn above it: the window stacks its views in the order of its list.
+bool covered(const ControlView& view) {
+  const FormWindow* window = windowOf(view);
+  if (window == nullptr) return false;
+  const std::vector<ControlView*>& views = window->views();
+  const auto self = std::find(views.begin(), views.end(), &view);
+  if (self == views.end()) return false;
+  return std::any_of(std::next(self), views.end(), [&](const ControlView* above) {
+    return !above->isHidden() && above->geometry().contains(view.geometry());
+  });
+}
+
+// Whether a screen reader finds the view in the window: shown, not covered,
+// and worth reading by its control's design and state.
+bool exposed(const ControlView& view) {
+  if (view.isHidden()) return false;
+  const Control* control = controlOf(view);
+  return control != nullptr && readOnItsOwn(*control) && !covered(view);
+}
+
+// Whether the view is shown and not covered, though it may be read only with
+// the control that it names or describes.
+bool exposedOrPartner(const ControlView& view) {
+  return !view.isHidden() && !covered(view);
+}
+
+QAccessible::Role roleOf(const Control& control) {
+  return readAsText(control) ? QAccessible::StaticText : roleOf(control.kind());
+}
+
 // One row of a list box. It has no widget of its own: it reads its list's view.
 class ListItemAccessible : public QAccessibleInterface {
  public:
@@ -92,10 +124,7 @@ class ListItemAccessible : public QAccessibleInterface {
 
   QRect rect() const override {
     if (!isValid()) return {};
-    const ListRows rows = listRows(list_->rect(), list_->look());
-    const QRect row(rows.items.left(),
-                    rows.items.top() + (row_ - list_->look().topIndex) * rows.rowHeight,
-                    rows.items.width(), rows.rowHeight);
+    const QRect row = listRows(list_->rect(), list_->look()).rowRect(row_, list_->look().topIndex);
     return QRect(list_->mapToGlobal(row.topLeft()), row.size());
   }
 
@@ -114,6 +143,11 @@ class ControlAccessible : public QAccessibleWidget, public QAccessibleTextInterf
   ControlView* view() const { return static_cast<ControlView*>(widget()); }
   ControlKind kind() const { return view()->look().kind; }
 
+  QAccessible::Role role() const override {
+    const Control* control = controlOf(*view());
+    return control != nullptr ? roleOf(*control) : roleOf(kind());
+  }
+
   QString text(QAccessible::Text t) const override {
     const ControlLook& look = view()->look();
     const Control* control = controlOf(*view());
@@ -122,11 +156,17 @@ class ControlAccessible : public QAccessibleWidget, public QAccessibleTextInterf
         if (control != nullptr) return accessibleName(*control);
         return look.kind == ControlKind::TextBox ? QString() : spokenCaption(look.text);
       case QAccessible::Value:
+        // A box of words that names itself by them has no value beside its name.
+        if (look.kind == ControlKind::TextBox && control != nullptr && readAsText(*control) &&
+            look.text.simplified() == accessibleName(*control))
+          return {};
         if (look.kind == ControlKind::TextBox) return look.text;
         if (look.kind == ControlKind::ListBox && look.listIndex >= 0 &&
             look.listIndex < look.items.size())
           return look.items.at(look.listIndex);
         return {};
+      case QAccessible::Description:
+        return control != nullptr ? accessibleDescription(*control) : QString();
       case QAccessible::Accelerator:
         return control != nullptr ? accessKeyShortcut(*control) : QString();
       default:
@@ -138,12 +178,17 @@ class ControlAccessible : public QAccessibleWidget, public QAccessibleTextInterf
     QAccessible::State state = QAccessibleWidget::state();
     const ControlLook& look = view()->look();
     const Control* control = controlOf(*view());
-    state.focusable = takesFocus(look.kind) && control != nullptr && control->canTakeFocus();
-    state.focused = look.focused;
+    const bool shown = exposed(*view());
+    state.invisible = !shown;
+    const bool asText = control != nullptr && readAsText(*control);
+    state.focusable =
+        shown && !asText && takesFocus(look.kind) && control != nullptr && control->canTakeFocus();
+    state.focused = shown && look.focused;
     state.disabled = !look.enabled;
-    if (look.kind == ControlKind::TextBox) {
-      state.editable = true;
-      state.readOnly = control != nullptr && control->locked();
+    // A box that takes numbers is editable while it takes keys, read-only while locked.
+    if (look.kind == ControlKind::TextBox && !asText && control != nullptr) {
+      state.editable = !control->locked();
+      state.readOnly = control->locked();
     }
     return state;
   }
@@ -221,17 +266,8 @@ class ControlAccessible : public QAccessibleWidget, public QAccessibleTextInterf
   }
   int characterCount() const override { return static_cast<int>(view()->look().text.size()); }
   QRect characterRect(int offset) const override {
-    const ControlLook& look = view()->look();
-    const QFontMetrics metrics(look.font);
-    const QRect area = view()->rect();
-    int left = area.left() + 2;
-    if (look.alignment == Alignment::Center)
-      left = area.center().x() - metrics.horizontalAdvance(look.text) / 2;
-    else if (look.alignment == Alignment::Right)
-      left = area.right() - 2 - metrics.horizontalAdvance(look.text);
-    const int x = left + metrics.horizontalAdvance(look.text.left(offset));
-    const int width = metrics.horizontalAdvance(look.text.mid(offset, 1));
-    const QRect character(x, area.center().y() - metrics.height() / 2, width, metrics.height());
+    const QRect character = gui::characterRect(view()->rect(), view()->look(), offset);
+    if (character.isNull()) return {};
     return QRect(view()->mapToGlobal(character.topLeft()), character.size());
   }
   int offsetAtPoint(const QPoint& point) const override {
@@ -249,18 +285,51 @@ class ControlAccessible : public QAccessibleWidget, public QAccessibleTextInterf
   mutable std::vector<QAccessible::Id> items_;
 };
 
-// The window of a form: its focused child is the model's focused control, not
-// the window itself, which holds Qt's keyboard focus on the model's behalf.
+// The window of a form: its children are the views that a reader finds, in
+// the order of the window's list; its focused child is the model's focused
+// control, not the window itself, which holds Qt's keyboard focus on the
+// model's behalf.
 class FormWindowAccessible : public QAccessibleWidget {
  public:
   explicit FormWindowAccessible(FormWindow* window)
       : QAccessibleWidget(window, QAccessible::Window) {}
 
+  FormWindow* formWindow() const { return static_cast<FormWindow*>(widget()); }
+
   QAccessibleInterface* focusChild() const override {
-    const auto* window = static_cast<const FormWindow*>(widget());
-    ControlView* focused = window->focusedView();
+    ControlView* focused = formWindow()->focusedView();
     if (focused == nullptr) return QAccessibleWidget::focusChild();
+    if (!exposed(*focused)) return nullptr;
     return QAccessible::queryAccessibleInterface(focused);
+  }
+
+  int childCount() const override { return static_cast<int>(children().size()); }
+  QAccessibleInterface* child(int index) const override {
+    const std::vector<ControlView*> shown = children();
+    if (index < 0 || index >= static_cast<int>(shown.size())) return nullptr;
+    return QAccessible::queryAccessibleInterface(shown[static_cast<std::size_t>(index)]);
+  }
+  int indexOfChild(const QAccessibleInterface* child) const override {
+    const std::vector<ControlView*> shown = children();
+    for (std::size_t i = 0; i < shown.size(); ++i)
+      if (child != nullptr && child->object() == shown[i]) return static_cast<int>(i);
+    return -1;
+  }
+  QAccessibleInterface* childAt(int x, int y) const override {
+    // The topmost first, as the window stacks them.
+    const std::vector<ControlView*> shown = children();
+    for (auto view = shown.rbegin(); view != shown.rend(); ++view)
+      if (QRect((*view)->mapToGlobal(QPoint(0, 0)), (*view)->size()).contains(x, y))
+        return QAccessible::queryAccessibleInterface(*view);
+    return nullptr;
+  }
+
+ private:
+  std::vector<ControlView*> children() const {
+    std::vector<ControlView*> shown;
+    for (ControlView* view : formWindow()->views())
+      if (exposed(*view)) shown.push_back(view);
+    return shown;
   }
 };
 
@@ -277,8 +346,51 @@ void send(QAccessibleEvent&& event) {
   QAccessible::updateAccessibility(&event);
 }
 
+// A control that the reader doesn't find takes the focus unheard.
 void sendFocus(ControlView& view) {
-  send(QAccessibleEvent(&view, QAccessible::Focus));
+  if (exposed(view)) send(QAccessibleEvent(&view, QAccessible::Focus));
+}
+
+// The change of a text as the one piece that differs: a typed character is
+// heard as that character, not as the whole text again.
+void sendTextChange(ControlView& view, const QString& before, const QString& after) {
+  qsizetype start = 0;
+  while (start < before.size() && start < after.size() && before[start] == after[start])
+    ++start;
+  qsizetype end = 0;
+  while (end < before.size() - start && end < after.size() - start &&
+         before[before.size() - 1 - end] == after[after.size() - 1 - end])
+    ++end;
+  const QString removed = before.mid(start, before.size() - start - end);
+  const QString inserted = after.mid(start, after.size() - start - end);
+  const int at = static_cast<int>(start);
+  if (removed.isEmpty())
+    send(QAccessibleTextInsertEvent(&view, at, inserted));
+  else if (inserted.isEmpty())
+    send(QAccessibleTextRemoveEvent(&view, at, removed));
+  else
+    send(QAccessibleTextUpdateEvent(&view, at, removed, inserted));
+}
+
+// What a refresh has to tell once all its views are brought up to date: the
+// view that the focus came to, then the prompts and alerts that came or
+// changed, so that the reader lands first and then hears what is new.
+struct Pending {
+  QPointer<ControlView> focus;
+  std::vector<QPointer<ControlView>> announcements;
+};
+
+Pending& pending() {
+  static Pending waiting;
+  return waiting;
+}
+
+// A prompt or an alert that comes into view or changes its words is said
+// once, unless the focused control's description says it already.
+void announce(ControlView& view) {
+  const Control* control = controlOf(view);
+  if (control == nullptr || !announcesItself(*control)) return;
+  pending().announcements.emplace_back(&view);
 }
 
 }  // namespace
@@ -295,14 +407,16 @@ void setAccessibleEventListener(AccessibleEventListener newListener) {
   listener = newListener;
 }
 
-void announceChange(ControlView& view, const ControlLook& before) {
+void announceChange(ControlView& view, const ControlLook& before, bool appeared) {
   // A window being made is announced as a whole when it is shown.
   if (!view.window()->isVisible()) return;
   const ControlLook& after = view.look();
+  if (appeared || before.text != after.text) announce(view);
+  if (before == after) return;
   switch (after.kind) {
     case ControlKind::TextBox:
       if (before.text != after.text) {
-        send(QAccessibleTextUpdateEvent(&view, 0, before.text, after.text));
+        sendTextChange(view, before.text, after.text);
         send(QAccessibleValueChangeEvent(&view, after.text));
       }
       if (after.focused && (before.caret != after.caret || before.text != after.text))
@@ -336,10 +450,22 @@ void announceChange(ControlView& view, const ControlLook& before) {
     changed.disabled = true;
     send(QAccessibleStateChangeEvent(&view, changed));
   }
+  if (after.focused && !before.focused) pending().focus = &view;
+}
+
+void finishAnnouncements() {
+  Pending waiting = std::exchange(pending(), {});
   // While a message box stands, the reader stays with it; the focus is
   // announced again when the window is back in front.
-  if (after.focused && !before.focused && QApplication::activeModalWidget() == nullptr)
-    sendFocus(view);
+  if (waiting.focus != nullptr && waiting.focus->look().focused &&
+      QApplication::activeModalWidget() == nullptr)
+    sendFocus(*waiting.focus);
+  for (const QPointer<ControlView>& view : waiting.announcements) {
+    if (view == nullptr || !exposedOrPartner(*view)) continue;
+    const Control* control = controlOf(*view);
+    if (control != nullptr && control->visible() && !describesFocus(*control))
+      send(QAccessibleEvent(view.data(), QAccessible::Alert));
+  }
 }
 
 void announceFocus(const FormWindow& window) {

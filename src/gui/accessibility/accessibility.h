@@ -2,9 +2,11 @@
 // never hold the keyboard focus, so Qt alone would offer them as nameless
 // panes; here each gets an accessible interface of its kind (button, text,
 // label, list with its items, picture) that reads the model's control: its
-// name, its text, its state, its access key. The window reports the model's
-// focused control as its focused child, and each refresh tells the screen
-// reader what changed in a view.
+// name, description, text, state and access key, as its design tells them.
+// The window offers only the views worth reading (not decoration, not what is
+// hidden or covered) and reports the model's focused control as its focused
+// child; each refresh tells the screen reader what changed in a view, and
+// says a prompt or an alert once when it comes or changes.
 #pragma once
 
 class QAccessibleEvent;
@@ -27,8 +29,13 @@ void setAccessibleEventListener(AccessibleEventListener listener);
 
 // Tells a screen reader what changed in the view since it showed `before`:
 // its text or caption, its list, its caret, whether it is enabled, and the
-// model's focus coming to it.
-void announceChange(ControlView& view, const ControlLook& before);
+// model's focus coming to it; and says a prompt or an alert that changed or,
+// `appeared`, came into view.
+void announceChange(ControlView& view, const ControlLook& before, bool appeared);
+
+// Ends a refresh of the window's views: tells the reader where the model's
+// focus came to, then says each prompt or alert that came or changed.
+void finishAnnouncements();
 
 // Tells a screen reader where the model's focus is in the window, as when the
 // window comes back to the front.

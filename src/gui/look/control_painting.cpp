@@ -167,27 +167,50 @@ void paintLabel(QPainter& painter, const QRect& area, const ControlLook& look, P
   drawCaption(painter, textArea(area, look), look, cache);
 }
 
-// The text of a text box, laid out on one line or, in a box tall enough for
-// more, wrapped; with the selection and, when it has the focus, the caret.
-void paintText(QPainter& painter, const QRect& inner, const ControlLook& look, PaintCache* cache) {
-  const QFontMetrics metrics(look.font);
-  const bool wraps = inner.height() >= 2 * metrics.height();
-  QTextOption option(horizontal(look.alignment));
-  option.setWrapMode(wraps ? QTextOption::WrapAtWordBoundaryOrAnywhere : QTextOption::NoWrap);
-  const int width = inner.width() - 2 * kTextMargin;
-  std::unique_ptr<QTextLayout> own;
-  if (cache == nullptr) own = laidOut(look.text, look.font, width, option);
-  const QTextLayout& layout =
-      cache != nullptr ? cache->layout(look.text, look.font, width, option) : *own;
+// How a text box lays out its text: within its border, on one line or, in a
+// box tall enough for more, wrapped.
+struct TextFrame {
+  QRect inner;  // inside the border
+  QTextOption option;
+  int width = 0;  // of a line of text
+  bool wraps = false;
+};
 
-  QPointF origin(inner.left() + kTextMargin, inner.top() + 1);
-  if (!wraps) origin.setY(inner.top() + std::max(0, (inner.height() - metrics.height()) / 2));
+TextFrame textFrame(const QRect& area, const ControlLook& look) {
+  TextFrame frame;
+  const int border = fieldBorder(look);
+  frame.inner = area.adjusted(border, border, -border, -border);
+  frame.wraps = frame.inner.height() >= 2 * QFontMetrics(look.font).height();
+  frame.option = QTextOption(horizontal(look.alignment));
+  frame.option.setWrapMode(frame.wraps ? QTextOption::WrapAtWordBoundaryOrAnywhere
+                                       : QTextOption::NoWrap);
+  frame.width = frame.inner.width() - 2 * kTextMargin;
+  return frame;
+}
+
+// Where the first line of the laid-out text starts: a single line stands in
+// the middle, scrolled so that a focused caret stays in view.
+QPointF textOrigin(const TextFrame& frame, const ControlLook& look, const QTextLayout& layout) {
+  const QFontMetrics metrics(look.font);
+  QPointF origin(frame.inner.left() + kTextMargin, frame.inner.top() + 1);
+  if (frame.wraps) return origin;
+  origin.setY(frame.inner.top() + std::max(0, (frame.inner.height() - metrics.height()) / 2));
   const QTextLine caretLine = layout.lineForTextPosition(look.caret);
-  if (!wraps && look.focused && caretLine.isValid()) {
-    // Keep the caret in view, as a single-line box scrolls its text.
+  if (look.focused && caretLine.isValid()) {
     const qreal caretX = caretLine.cursorToX(look.caret);
-    if (caretX > width) origin.rx() -= caretX - width;
+    if (caretX > frame.width) origin.rx() -= caretX - frame.width;
   }
+  return origin;
+}
+
+// The text of a text box, with the selection and, when it has the focus, the caret.
+void paintText(QPainter& painter, const QRect& area, const ControlLook& look, PaintCache* cache) {
+  const TextFrame frame = textFrame(area, look);
+  std::unique_ptr<QTextLayout> own;
+  if (cache == nullptr) own = laidOut(look.text, look.font, frame.width, frame.option);
+  const QTextLayout& layout =
+      cache != nullptr ? cache->layout(look.text, look.font, frame.width, frame.option) : *own;
+  const QPointF origin = textOrigin(frame, look, layout);
 
   QList<QTextLayout::FormatRange> selections;
   if (look.selectionLength > 0) {
@@ -199,7 +222,7 @@ void paintText(QPainter& painter, const QRect& inner, const ControlLook& look, P
     selections.append(selection);
   }
   painter.save();
-  painter.setClipRect(inner);
+  painter.setClipRect(frame.inner);
   painter.setPen(look.foreground);
   layout.draw(&painter, origin, selections);
   if (look.focused) layout.drawCursor(&painter, origin, look.caret);
@@ -210,8 +233,7 @@ void paintTextBox(QPainter& painter, const QRect& area, const ControlLook& look,
                   PaintCache* cache) {
   painter.fillRect(area, look.background);
   if (look.borderStyle != 0) drawEdge(painter, area, classic::Edge::Sunken);
-  const int border = fieldBorder(look);
-  paintText(painter, area.adjusted(border, border, -border, -border), look, cache);
+  paintText(painter, area, look, cache);
 }
 
 void paintListBox(QPainter& painter, const QRect& area, const ControlLook& look) {
@@ -224,8 +246,7 @@ void paintListBox(QPainter& painter, const QRect& area, const ControlLook& look)
   for (int shown = 0; shown <= rows.visibleRows; ++shown) {
     const int item = look.topIndex + shown;
     if (item >= look.items.size()) break;
-    const QRect row(rows.items.left(), rows.items.top() + shown * rows.rowHeight,
-                    rows.items.width(), rows.rowHeight);
+    const QRect row = rows.rowRect(item, look.topIndex);
     const bool selected = item == look.listIndex;
     if (selected) painter.fillRect(row, edges::kSelection);
     painter.setPen(selected ? edges::kHighlight : look.foreground);
@@ -282,6 +303,23 @@ int ListRows::rowAt(const QPoint& point, int topIndex, int itemCount) const {
   if (!items.contains(point)) return -1;
   const int row = topIndex + (point.y() - items.top()) / rowHeight;
   return row < itemCount ? row : -1;
+}
+
+QRect ListRows::rowRect(int row, int topIndex) const {
+  return {items.left(), items.top() + (row - topIndex) * rowHeight, items.width(), rowHeight};
+}
+
+QRect characterRect(const QRect& area, const ControlLook& look, int offset) {
+  const TextFrame frame = textFrame(area, look);
+  const std::unique_ptr<QTextLayout> layout =
+      laidOut(look.text, look.font, frame.width, frame.option);
+  const QPointF origin = textOrigin(frame, look, *layout);
+  const QTextLine line = layout->lineForTextPosition(offset);
+  if (!line.isValid()) return {};
+  const qreal left = line.cursorToX(offset);
+  const qreal right = line.cursorToX(std::min<int>(offset + 1, look.text.size()));
+  return QRectF(origin.x() + left, origin.y() + line.y(), right - left, line.height())
+      .toAlignedRect();
 }
 
 int ListRows::lastTopIndex(int itemCount) const {

@@ -66,9 +66,15 @@ struct ListRows {
 
   // The item under the point, or -1.
   int rowAt(const QPoint& point, int topIndex, int itemCount) const;
+  // Where the row of an item stands while the list is scrolled to `topIndex`.
+  QRect rowRect(int row, int topIndex) const;
   int lastTopIndex(int itemCount) const;
 };
 
 ListRows listRows(const QRect& area, const ControlLook& look);
+
+// Where a character of a text box stands in `area`, as painting lays the
+// text out; empty past the end of the text.
+QRect characterRect(const QRect& area, const ControlLook& look, int offset);
 
 }  // namespace veridraw::gui

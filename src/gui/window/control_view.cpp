@@ -50,13 +50,14 @@ void ControlView::sync(const Control& control, bool focused) {
   if (place != geometry()) setGeometry(place);
   // Shown or hidden explicitly from the first, so that showing the window
   // doesn't show a view that the model hides.
+  const bool appeared = !first && control.visible() && isHidden();
   if (first || control.visible() == isHidden()) setVisible(control.visible());
   ControlLook look = look_;
   updateLook(look, sources_, control, focused);
-  if (look != look_) {
+  if (look != look_ || appeared) {
     const ControlLook before = std::exchange(look_, std::move(look));
-    update();
-    announceChange(*this, before);
+    if (before != look_) update();
+    announceChange(*this, before, appeared);
   }
   if (scrollBar_ != nullptr) syncScrollBar();
 }

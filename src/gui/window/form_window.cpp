@@ -76,6 +76,7 @@ void FormWindow::sync() {
   const Control* focus = form_.focus();
   for (ControlView* view : views_)
     view->sync(view->control(), &view->control() == focus);
+  finishAnnouncements();
 }
 
 ControlView* FormWindow::view(std::string_view name, int index) const {
