@@ -50,21 +50,8 @@ void Veridraw7e::Form_Load() {
     IntResult(cell).setLocked(true);
   }
   store::ReadCurrentDraw(files(), *this);
-  LblSpaceBar->setVisible(false);
-  if (StrictNumber(CurrentDrawText) < store::kFirstPowerBallDraw) {
-    LblSpaceBar->setFontBold(true);
-    LblSpaceBar->setCaption(kBeforePowerBall);
-    LblSpaceBar->setVisible(true);
-  } else if (DrawNumbersText == "") {
-    LblSpaceBar->setCaption(tickets::kNoNumbersMessage);
-    LblSpaceBar->setVisible(true);
-  } else {
-    TxtDrawBox->setText(CurrentDrawText);
-    for (int pair = 1; pair <= kDrawPairs; ++pair) {
-      TxtDrawnNumbers2(pair).setText(Mid(DrawNumbersText, 2 * pair, 2));
-      DrawNumbers(pair) = StrictInteger(TxtDrawnNumbers2(pair).text());
-    }
-  }
+  ShowDrawOnLoad(store::kFirstPowerBallDraw, kBeforePowerBall, DrawNumbersText,
+                 [this] { ShowDrawLine(StrictInteger); });
   ShowHomeChoices();
 }
 
@@ -75,31 +62,18 @@ void Veridraw7e::List1_Click() {
   store::SelectDraw(files(), *this, List1->text());
   LblSpaceBar->setVisible(false);
   if (StrictNumber(CurrentDrawText) < store::kFirstPowerBallDraw) {
-    LblSpaceBar->setFontBold(true);
-    LblSpaceBar->setHeight(tickets::kOneMessageHeight);
-    LblSpaceBar->setCaption(kBeforePowerBall);
-    LblSpaceBar->setVisible(true);
+    ShowMessage(kBeforePowerBall, tickets::kOneMessageHeight, Bold::On);
   } else if (DrawNumbersText != "") {
-    if (SavedMode == 1) {
-      LblSpaceBar->setFontBold(false);
-      LblSpaceBar->setHeight(tickets::kTwoMessagesHeight);
-      LblSpaceBar->setCaption(tickets::kSavedTicketsHint);
-      LblSpaceBar->setVisible(true);
-    }
+    if (SavedMode == 1)
+      ShowMessage(tickets::kSavedTicketsHint, tickets::kTwoMessagesHeight, Bold::Off);
   } else {
-    LblSpaceBar->setHeight(tickets::kOneMessageHeight);
-    LblSpaceBar->setCaption(tickets::kNoNumbersMessage);
-    LblSpaceBar->setVisible(true);
+    ShowMessage(tickets::kNoNumbersMessage, tickets::kOneMessageHeight);
   }
-  ShowDrawLine();
+  ShowDrawLine(tickets::LenientInteger);
 }
 
-void Veridraw7e::ShowDrawLine() {
-  TxtDrawBox->setText(CurrentDrawText);
-  for (int pair = 1; pair <= kDrawPairs; ++pair) {
-    TxtDrawnNumbers2(pair).setText(Mid(DrawNumbersText, 2 * pair, 2));
-    DrawNumbers(pair) = Integer::fromDouble(Val(TxtDrawnNumbers2(pair).text()));
-  }
+void Veridraw7e::ShowDrawLine(Integer (*convert)(std::string_view pair)) {
+  ShowDrawPairs(TxtDrawnNumbers2, DrawNumbersText, kDrawPairs, DrawNumbers, convert);
 }
 
 // The hint of the Space Bar in the size of this screen's messages. Set after

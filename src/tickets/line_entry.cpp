@@ -54,9 +54,7 @@ void TicketScreen::OwnNumRoutine() {
   BtnCancel->setVisible(false);
   ShowLineButtons(false);
   LblEnterLine->setVisible(true);
-  LblSpaceBar->setCaption(kSpaceBarHint);
-  LblSpaceBar->setHeight(kOneMessageHeight);
-  LblSpaceBar->setVisible(true);
+  ShowMessage(kSpaceBarHint, kOneMessageHeight);
   LineA(game_.coverCell()).setBackColor(colors::kPaleYellow);
   LineA(1).SetFocus();
 }
@@ -163,19 +161,34 @@ void TicketScreen::EndOfEntry() {
   const int cells = LineCount * game_.cellsPerLine;
   LineA(cells + 1).SetFocus();
   TakeTicketCells();
+  PaintTicketAsDisplay(cells, false);
+  CheckEnteredTicket(cells);
+  OfferTicketSave();
+  LineA(1).setTabStop(false);
+  FocusShowResults();
+}
+
+void TicketScreen::PaintTicketAsDisplay(int cells, bool show) {
   for (int cell = 1; cell <= cells; ++cell) {
     LineA(cell).setBackColor(colors::kPaleYellow);
     LineA(cell).setBorderStyle(0);
+    if (show) LineA(cell).setVisible(true);
   }
+}
+
+void TicketScreen::CheckEnteredTicket(int cells) {
   NumberSortRoutine();
   for (int cell = 1; cell <= cells; ++cell)
     IntResult(cell).setLocked(true);
+}
+
+void TicketScreen::OfferTicketSave() {
   BtnCheckNewTicket->setVisible(false);
-  LblSpaceBar->setCaption(kSavedTicketsHint);
-  LblSpaceBar->setHeight(kTwoMessagesHeight);
-  LblSpaceBar->setVisible(true);
+  ShowMessage(kSavedTicketsHint, kTwoMessagesHeight);
   BtnSaveTicket->setVisible(true);
-  LineA(1).setTabStop(false);
+}
+
+void TicketScreen::FocusShowResults() {
   CmdShowResults->setVisible(true);
   CmdShowResults->SetFocus();
 }

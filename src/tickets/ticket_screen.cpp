@@ -23,6 +23,10 @@ constexpr double kNoTicketsFontSize = 10;
 
 }  // namespace
 
+Integer LenientInteger(std::string_view pair) {
+  return Integer::fromDouble(Val(pair));
+}
+
 char LineLetter(int line) {
   return static_cast<char>(line <= 8 ? 'A' + line - 1 : 'A' + line);
 }
@@ -60,6 +64,35 @@ Control& TicketScreen::PrizeCountBox(int row) {
 
 Control& TicketScreen::PrizeLabel(int row) {
   return control(game_.prizeLabel + CStr(row));
+}
+
+void TicketScreen::ShowMessage(const std::string& caption, int height, Bold bold) {
+  if (bold != Bold::Keep) LblSpaceBar->setFontBold(bold == Bold::On);
+  LblSpaceBar->setCaption(caption);
+  if (height != kKeepHeight) LblSpaceBar->setHeight(height);
+  LblSpaceBar->setVisible(true);
+}
+
+void TicketScreen::ShowDrawOnLoad(int firstDraw, const char* beforeFirstDraw,
+                                  const std::string& numbersText,
+                                  const std::function<void()>& takeNumbers) {
+  LblSpaceBar->setVisible(false);
+  if (StrictNumber(CurrentDrawText) < firstDraw)
+    ShowMessage(beforeFirstDraw, kKeepHeight, Bold::On);
+  else if (numbersText == "")
+    ShowMessage(kNoNumbersMessage, kKeepHeight);
+  else
+    takeNumbers();
+}
+
+void TicketScreen::ShowDrawPairs(const ControlArray& boxes, const std::string& numbersText,
+                                 int pairs, CheckedArray<Integer>& numbers,
+                                 Integer (*convert)(std::string_view)) {
+  TxtDrawBox->setText(CurrentDrawText);
+  for (int pair = 1; pair <= pairs; ++pair) {
+    boxes(pair).setText(Mid(numbersText, 2 * pair, 2));
+    numbers(pair) = convert(boxes(pair).text());
+  }
 }
 
 void TicketScreen::ShowLetters(int first, int last, bool visible) {
@@ -106,10 +139,7 @@ void TicketScreen::BtnCheckNewTicket_Click() {
   BtnCancel->setVisible(true);
   TxtNoofLines->setVisible(true);
   ShowLineButtons(true);
-  LblSpaceBar->setHeight(kOneMessageHeight);
-  LblSpaceBar->setFontBold(false);
-  LblSpaceBar->setCaption(kSpaceBarHint);
-  LblSpaceBar->setVisible(true);
+  ShowMessage(kSpaceBarHint, kOneMessageHeight, Bold::Off);
 }
 
 void TicketScreen::BtnCheckSavedTickets_Click() {
@@ -131,17 +161,13 @@ void TicketScreen::BtnCheckSavedTickets_Click() {
   BtnDeleteTicket->setVisible(true);
   BtnCancel->setVisible(true);
   if (SavedTicketsExist != 0) {
-    LblSpaceBar->setHeight(kTwoMessagesHeight);
-    if (game_.savedHintClearsBold) LblSpaceBar->setFontBold(false);
-    LblSpaceBar->setCaption(kSavedTicketsHint);
+    ShowMessage(kSavedTicketsHint, kTwoMessagesHeight,
+                game_.savedHintClearsBold ? Bold::Off : Bold::Keep);
   } else {
-    LblSpaceBar->setHeight(kOneMessageHeight);
     LblSpaceBar->setFontSize(kNoTicketsFontSize);
-    LblSpaceBar->setFontBold(true);
-    LblSpaceBar->setCaption(kNoSavedTickets);
+    ShowMessage(kNoSavedTickets, kOneMessageHeight, Bold::On);
   }
   SavedMode = 1;
-  LblSpaceBar->setVisible(true);
   List1->setTopIndex(0);
   LstLottoTicket->setTopIndex(0);
 }
@@ -199,11 +225,7 @@ void TicketScreen::ClearResults() {
 // The ticket stands again on the left in pale yellow without borders, with
 // its letters, and the pictures of a win go.
 void TicketScreen::ShowTicketWithoutPrizes(int cells) {
-  for (int cell = 1; cell <= cells; ++cell) {
-    LineA(cell).setBackColor(colors::kPaleYellow);
-    LineA(cell).setBorderStyle(0);
-    LineA(cell).setVisible(true);
-  }
+  PaintTicketAsDisplay(cells, true);
   for (int line = 1; line <= LineCount; ++line)
     TextATxt(line).setVisible(true);
   LblYouveWon->setCaption("There are no Prizes on this Ticket");
@@ -215,14 +237,31 @@ void TicketScreen::ShowTicketWithoutPrizes(int cells) {
 // do its cells with the three after them, the cover box and the letters.
 void TicketScreen::HideTicketForResults() {
   const int cells = LineCount * game_.cellsPerLine;
-  for (const ControlRef* hidden :
-       {&LblSaved, &BtnCheckNewTicket, &BtnCancel, &BtnSaveTicket, &CmdShowResults})
-    (*hidden)->setVisible(false);
+  HideTicketButtons();
   LineA(game_.coverCell()).setVisible(false);
   for (int cell = 1; cell <= cells + 3; ++cell)
     LineA(cell).setVisible(false);
   for (int line = 1; line <= game_.mostLines; ++line)
     TextATxt(line).setVisible(false);
+}
+
+// In this order: hiding CmdShowResults, which has the focus, moves it on.
+void TicketScreen::HideTicketButtons() {
+  for (const ControlRef* hidden :
+       {&LblSaved, &BtnCheckNewTicket, &BtnCancel, &BtnSaveTicket, &CmdShowResults})
+    (*hidden)->setVisible(false);
+}
+
+void TicketScreen::ShowPicturesOfAWin(bool lowerPictures) {
+  ImgCoins->setVisible(true);
+  ImgMoney->setVisible(true);
+  Image1->setVisible(false);
+  Image2->setVisible(false);
+  if (lowerPictures) {
+    Image3->setVisible(true);
+    Image4->setVisible(true);
+  }
+  LblYouveWon->setCaption("CONGRATULATIONS You've WON !!!");
 }
 
 void TicketScreen::BtnRestart_Click() {
