@@ -12,7 +12,7 @@ using tickets::kMainNumbers;
 using tickets::kRowStep;
 
 Veridraw7b::Veridraw7b(Application& application)
-    : TicketScreen(application, veridraw7bDesign(), lottoGame()) {}
+    : TicketScreen(application, "Veridraw7b", designOnce<veridraw7bDesign>, lottoGame()) {}
 
 void Veridraw7b::Form_Load() {
   LineCount = 0;
@@ -21,10 +21,7 @@ void Veridraw7b::Form_Load() {
     LineA(cell).setVisible(true);
     LineA(cell).setBackColor(colors::kWhite);
   }
-  for (int cell = 1; cell <= game_.gridCells(); ++cell) {
-    LineA(cell).setLocked(true);
-    IntResult(cell).setLocked(true);
-  }
+  LockGrids();
   store::ReadCurrentDraw(files(), *this);
   if (DrawNumbersText == "") {
     ShowNoNumbersMessage();

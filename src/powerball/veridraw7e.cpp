@@ -18,7 +18,7 @@ constexpr double kHintFontSize = 10;
 }  // namespace
 
 Veridraw7e::Veridraw7e(Application& application)
-    : TicketScreen(application, veridraw7eDesign(), powerBallGame()),
+    : TicketScreen(application, "Veridraw7e", designOnce<veridraw7eDesign>, powerBallGame()),
       powerBallColumn_{PowerBallText, [this](int line) { return TxtPowerBall(line).text(); }} {
   on("BtnYes", Event::Click, [this] { BtnYes_Click(); });
   on("BtnNo", Event::Click, [this] { BtnNo_Click(); });
@@ -45,10 +45,7 @@ void Veridraw7e::Form_Load() {
     TextATxt(line).setVisible(false);
   for (int cell = 61; cell <= game_.gridCells(); ++cell)
     LineA(cell).setVisible(false);
-  for (int cell = 1; cell <= game_.gridCells(); ++cell) {
-    LineA(cell).setLocked(true);
-    IntResult(cell).setLocked(true);
-  }
+  LockGrids();
   store::ReadCurrentDraw(files(), *this);
   ShowDrawOnLoad(store::kFirstPowerBallDraw, kBeforePowerBall, DrawNumbersText,
                  [this] { ShowDrawLine(StrictInteger); });

@@ -19,7 +19,7 @@ constexpr double kHintFontSize = 10;
 }  // namespace
 
 Veridraw7c::Veridraw7c(Application& application)
-    : TicketScreen(application, veridraw7cDesign(), strikeGame()) {}
+    : TicketScreen(application, "Veridraw7c", designOnce<veridraw7cDesign>, strikeGame()) {}
 
 // Shows three empty lines, reads the current draw and offers the two roads.
 // LineCount is left as it was. Below draw 293, or on a draw without Strike
@@ -37,10 +37,7 @@ void Veridraw7c::Form_Load() {
     TextATxt(line).setVisible(false);
   for (int cell = game_.homeCells + 1; cell <= game_.gridCells(); ++cell)
     LineA(cell).setVisible(false);
-  for (int cell = 1; cell <= game_.gridCells(); ++cell) {
-    LineA(cell).setLocked(true);
-    IntResult(cell).setLocked(true);
-  }
+  LockGrids();
   for (int spare = kFirstSpare; spare <= kLastSpare; ++spare)
     LineA(spare).setLocked(true);
   store::ReadCurrentDraw(files(), *this);

@@ -31,8 +31,9 @@ char LineLetter(int line) {
   return static_cast<char>(line <= 8 ? 'A' + line - 1 : 'A' + line);
 }
 
-TicketScreen::TicketScreen(Application& application, FormDesign design, TicketGame game)
-    : Form(application, std::move(design)),
+TicketScreen::TicketScreen(Application& application, std::string name, DesignSource design,
+                           TicketGame game)
+    : Form(application, std::move(name), design),
       game_(std::move(game)),
       TicketCells(0, game_.lastTicketCell) {
   on("BtnCheckNewTicket", Event::Click, [this] { BtnCheckNewTicket_Click(); });
@@ -105,6 +106,13 @@ void TicketScreen::ShowLetters(int first, int last, bool visible) {
 void TicketScreen::ShowLineButtons(bool visible) {
   for (const LineButton& button : game_.lineButtons)
     control(button.name).setVisible(visible);
+}
+
+void TicketScreen::LockGrids() {
+  for (int cell = 1; cell <= game_.gridCells(); ++cell) {
+    LineA(cell).setLocked(true);
+    IntResult(cell).setLocked(true);
+  }
 }
 
 // The end of every Form_Load: the two roads, the lists, and no ticket yet.

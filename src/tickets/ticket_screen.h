@@ -45,10 +45,12 @@ Integer LenientInteger(std::string_view pair);
 
 class TicketScreen : public Form, public store::DrawFields, public store::TicketFields {
  public:
-  TicketScreen(Application& application, FormDesign design, TicketGame game);
+  TicketScreen(Application& application, std::string name, DesignSource design, TicketGame game);
 
  protected:
   // The flow of the states.
+  // Every cell of the ticket's grid and of the prize grid locked, in pairs.
+  void LockGrids();
   void ShowHomeChoices();
   // Puts the list of draws, List1, and its label in their low place and shows
   // them.
