@@ -29,10 +29,10 @@ void Veridraw7c::NumberOfLines() {
 }
 
 // A number may stand only once in a line, whatever its place: the number typed
-// last is the one that is thrown out. Numbers are compared by value.
-bool Veridraw7c::OutOfOrder() {
-  return CellValue(OrderSecond) == CellValue(OrderFirst) ||
-         CellValue(CurrentCell) == CellValue(OrderFirst);
+// last is the one that is thrown out. Numbers are compared by value: those of
+// the cells OrderFirst, OrderSecond and CurrentCell.
+bool Veridraw7c::OutOfOrder(double first, double second, double current) const {
+  return second == first || current == first;
 }
 
 void Veridraw7c::EndOfEntry() {

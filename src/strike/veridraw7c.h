@@ -33,7 +33,7 @@ class Veridraw7c : public tickets::TicketScreen {
   // The Strike name of OwnNumRoutine: the shared preparation of the grid, then
   // the typing font of every cell, and cell 1 emptied and given the focus.
   void NumberOfLines();
-  bool OutOfOrder() override;
+  bool OutOfOrder(double first, double second, double current) const override;
   void EndOfEntry() override;
 
   // The check.

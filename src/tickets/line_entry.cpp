@@ -9,6 +9,7 @@
 // reads the counters as the inner one left them and runs out: that is how a
 // refused number gives exactly one message. The loops are kept as they stand
 // for that reason, each bound taken once when its loop starts.
+#include <array>
 #include <cstddef>
 
 #include "screen/dialogs.h"
@@ -65,10 +66,21 @@ void TicketScreen::LineA_Change() {
   LineStartCell = 1;
   const int bound = LineCount * game_.cellsPerLine + 2;
   for (CurrentCell = 1; CurrentCell <= bound; CurrentCell = CurrentCell + 1) {
-    BacktrackTest();
-    RangeTest();
-    if (Len(LineA(CurrentCell).text()) == kCompleteCell && CurrentCell != 1) OrderTest();
-    if (Len(LineA(CurrentCell).text()) == kCompleteCell) {
+    // Each test of a step reads the cell afresh, since the one before may have
+    // changed it. When the first reading shows that the space bar and the
+    // range have nothing to do (cell 1 steps back from nothing), nothing
+    // changes until the order test, and that one reading serves them all.
+    const CellReading& cell = Reading(CurrentCell);
+    if ((cell.stepBack && CurrentCell != 1) || cell.outOfRange) {
+      BacktrackTest();
+      RangeTest();
+      if (Reading(CurrentCell).length == kCompleteCell && CurrentCell != 1) OrderTest();
+    } else if (cell.length != kCompleteCell) {
+      continue;
+    } else if (CurrentCell != 1) {
+      OrderTest();
+    }
+    if (Reading(CurrentCell).length == kCompleteCell) {
       Advance();
       if (CurrentCell == LineCount * game_.cellsPerLine) EndOfEntry();
     }
@@ -78,7 +90,7 @@ void TicketScreen::LineA_Change() {
 // The space bar in an empty cell empties the cell before it, and gives it the
 // focus. Cell 1 has no cell before it, and its two blanks stay.
 void TicketScreen::BacktrackTest() {
-  if (CurrentCell == 1 || LineA(CurrentCell).text() != kStepBackCell) return;
+  if (CurrentCell == 1 || !Reading(CurrentCell).stepBack) return;
   LineA(CurrentCell - 1).setLocked(false);
   LineA(CurrentCell - 1).SetFocus();
   LineA(CurrentCell - 1).setText(kEmptyCell);
@@ -87,28 +99,59 @@ void TicketScreen::BacktrackTest() {
 
 // A value above 40 is refused at once; one below 1 when the cell is complete.
 void TicketScreen::RangeTest() {
-  if (IsOutOfRange(LineA(CurrentCell).text())) Refuse(kRangeMessage, game_.rangeRefusalShowsPrompt);
+  if (Reading(CurrentCell).outOfRange) Refuse(kRangeMessage, game_.rangeRefusalShowsPrompt);
 }
 
 // Each pair of cells from the start of the line up to the complete cell must be
 // in the order of the game. The test never looks back across LineStartCell, so
 // equal numbers on different lines pass.
+//
+// Every comparison reads the cells that the counters name as they stand. A
+// cell is read once for the step and its number kept, by its place from the
+// start of the line, since nothing between two comparisons changes a text; a
+// refusal empties the cell and runs the walk nested, which moves the counters
+// and may change any cell, so after one every cell is read again.
 void TicketScreen::OrderTest() {
+  struct Kept {
+    bool read = false;
+    bool empty = false;
+    double value = 0;
+  };
+  constexpr int kKeptCells = 16;
+  std::array<Kept, kKeptCells> kept{};
+  const int firstKept = LineStartCell;
+  const auto cellAt = [&](int cell) {
+    const int place = cell - firstKept;
+    if (place < 0 || place >= kKeptCells) {
+      const CellReading& reading = Reading(cell);
+      return Kept{true, reading.empty, reading.value};
+    }
+    Kept& known = kept[static_cast<std::size_t>(place)];
+    if (!known.read) {
+      const CellReading& reading = Reading(cell);
+      known = Kept{true, reading.empty, reading.value};
+    }
+    return known;
+  };
   const int lastFirst = CurrentCell;
   for (OrderFirst = LineStartCell; OrderFirst <= lastFirst; OrderFirst = OrderFirst + 1) {
     const int lastSecond = CurrentCell;
     for (OrderSecond = OrderFirst + 1; OrderSecond <= lastSecond; OrderSecond = OrderSecond + 1) {
-      if (LineA(OrderFirst).text() == kEmptyCell && LineA(OrderSecond).text() == kEmptyCell) return;
-      if (OutOfOrder()) Refuse(kIncorrectNumberMessage);
+      const Kept first = cellAt(OrderFirst);
+      const Kept second = cellAt(OrderSecond);
+      if (first.empty && second.empty) return;
+      if (OutOfOrder(first.value, second.value, cellAt(CurrentCell).value)) {
+        Refuse(kIncorrectNumberMessage);
+        kept.fill(Kept{});
+      }
     }
   }
 }
 
 // The numbers of a line ascend strictly from left to right, which refuses a
 // repeated number as well.
-bool TicketScreen::OutOfOrder() {
-  return CellValue(OrderFirst) >= CellValue(OrderSecond) ||
-         CellValue(CurrentCell) == CellValue(OrderFirst);
+bool TicketScreen::OutOfOrder(double first, double second, double current) const {
+  return first >= second || current == first;
 }
 
 void TicketScreen::Refuse(const std::string& message, bool showPrompt) {

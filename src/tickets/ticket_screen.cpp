@@ -51,8 +51,31 @@ TicketScreen::TicketScreen(Application& application, std::string name, DesignSou
   on("BtnDeleteTicket", Event::Click, [this] { BtnDeleteTicket_Click(); });
 }
 
+// A missing element is fatal 340 here, as a read of its text would be, before
+// anything is kept.
+const TicketScreen::CellReading& TicketScreen::ReadCell(int cell) const {
+  const Control& control = LineA(cell);
+  if (static_cast<std::size_t>(cell) >= readings_.size())
+    readings_.resize(static_cast<std::size_t>(cell) + 1);
+  CellReading& reading = readings_[static_cast<std::size_t>(cell)];
+  const std::string& text = control.text();
+  const bool sameText =
+      reading.generation == generation() && reading.control == &control && reading.text == text;
+  reading.revision = control.revision();
+  if (sameText) return reading;
+  reading.control = &control;
+  reading.generation = generation();
+  reading.text = text;
+  reading.length = Len(text);
+  reading.empty = text == kEmptyCell;
+  reading.stepBack = text == kStepBackCell;
+  reading.value = Val(text);
+  reading.outOfRange = IsOutOfRange(text, reading.value);
+  return reading;
+}
+
 double TicketScreen::CellValue(int cell) const {
-  return Val(LineA(cell).text());
+  return Reading(cell).value;
 }
 
 Integer TicketScreen::CellInteger(int cell) const {

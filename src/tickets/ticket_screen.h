@@ -7,9 +7,12 @@
 // of a draw and the summary of prizes belong to each screen.
 #pragma once
 
+#include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "screen/application.h"
 #include "screen/checked_array.h"
@@ -154,8 +157,9 @@ class TicketScreen : public Form, public store::DrawFields, public store::Ticket
   virtual void PaintColumn() {}
   virtual void CheckLoadedTicket() { NumberSortRoutine(); }
   // Whether the complete cell CurrentCell breaks the rule of its line against
-  // the cells OrderFirst and OrderSecond: on the Lotto screen a line ascends.
-  virtual bool OutOfOrder();
+  // the cells OrderFirst and OrderSecond, given the values of the three: on
+  // the Lotto screen a line ascends.
+  virtual bool OutOfOrder(double first, double second, double current) const;
 
   // The complete cell CurrentCell of `cells` is locked and the cursor moves on
   // to the next one, which is opened and shown; `prompt` moves the prompt
@@ -173,6 +177,35 @@ class TicketScreen : public Form, public store::DrawFields, public store::Ticket
   void MatchLottoLine(Integer& cell, const CheckedArray<Integer>& CheckNumbers, Integer bonus,
                       Integer& MatchCount, Integer& BonusMatched);
 
+  // What the walk reads of a cell's text: its length, whether it is empty or
+  // the space bar's step back, whether its number is out of range, and its
+  // value by the Val rule. Each is a function of the text alone.
+  struct CellReading {
+    const Control* control = nullptr;
+    std::string text;  // the text that was read
+    std::uint64_t revision = 0;
+    int generation = 0;  // no Load has generation 0, so a new reading is stale
+    int length = 0;
+    bool empty = false;
+    bool stepBack = false;
+    bool outOfRange = false;
+    double value = 0;
+  };
+  // The reading of cell `cell` of LineA, taken from its text when the cell's
+  // revision or the form's generation has moved since it was last taken, and
+  // kept otherwise. Every change of a text moves its control's revision, so a
+  // reading always answers for the text as it stands.
+  const CellReading& Reading(int cell) const {
+    if (cell >= 0 && static_cast<std::size_t>(cell) < readings_.size()) {
+      const CellReading& reading = readings_[static_cast<std::size_t>(cell)];
+      // The control of a reading of this generation is the cell's control of
+      // this Load, so it is safe to ask for its revision.
+      if (reading.generation == generation() && loaded() &&
+          reading.control->revision() == reading.revision)
+        return reading;
+    }
+    return ReadCell(cell);
+  }
   // The value of a cell's text by the Val rule.
   double CellValue(int cell) const;
   Integer CellInteger(int cell) const;
@@ -235,6 +268,13 @@ class TicketScreen : public Form, public store::DrawFields, public store::Ticket
   // white, with the focus, and empty; the prompt of the line is shown again
   // after the message if asked.
   void Refuse(const std::string& message, bool showPrompt = false);
+
+  // Takes the reading of a cell from its text and keeps it, unless the text
+  // is still the one read, when only the revision is taken anew: a revision
+  // moves with the cell's other properties too.
+  const CellReading& ReadCell(int cell) const;
+
+  mutable std::vector<CellReading> readings_;
 };
 
 }  // namespace veridraw::tickets
