@@ -112,37 +112,53 @@ void TicketScreen::RangeTest() {
 // refusal empties the cell and runs the walk nested, which moves the counters
 // and may change any cell, so after one every cell is read again.
 void TicketScreen::OrderTest() {
-  struct Kept {
-    bool read = false;
-    bool empty = false;
-    double value = 0;
-  };
+  // The cells kept, by their place from the cell where the line starts: not
+  // read yet, read and blank, or read and holding the kept value.
+  enum class Kept : unsigned char { Unread, Blank, Number };
   constexpr int kKeptCells = 16;
-  std::array<Kept, kKeptCells> kept{};
+  std::array<Kept, kKeptCells> kept;
+  kept.fill(Kept::Unread);
+  std::array<double, kKeptCells> values;
   const int firstKept = LineStartCell;
-  const auto cellAt = [&](int cell) {
-    const int place = cell - firstKept;
-    if (place < 0 || place >= kKeptCells) {
+  bool blank = false;  // what the last look at a cell found
+  const auto valueOf = [&](int cell) {
+    const auto place = static_cast<unsigned>(cell - firstKept);
+    if (place >= static_cast<unsigned>(kKeptCells)) {
       const CellReading& reading = Reading(cell);
-      return Kept{true, reading.empty, reading.value};
+      blank = reading.empty;
+      return reading.value;
     }
-    Kept& known = kept[static_cast<std::size_t>(place)];
-    if (!known.read) {
+    if (kept[place] == Kept::Unread) {
       const CellReading& reading = Reading(cell);
-      known = Kept{true, reading.empty, reading.value};
+      kept[place] = reading.empty ? Kept::Blank : Kept::Number;
+      values[place] = reading.value;
     }
-    return known;
+    blank = kept[place] == Kept::Blank;
+    return values[place];
   };
+  // The cells OrderFirst and CurrentCell stay the same cells along the inner
+  // loop until a refusal moves the counters.
+  double first = 0;
+  double current = 0;
+  bool firstBlank = false;
+  bool stale = true;
   const int lastFirst = CurrentCell;
   for (OrderFirst = LineStartCell; OrderFirst <= lastFirst; OrderFirst = OrderFirst + 1) {
     const int lastSecond = CurrentCell;
+    stale = true;
     for (OrderSecond = OrderFirst + 1; OrderSecond <= lastSecond; OrderSecond = OrderSecond + 1) {
-      const Kept first = cellAt(OrderFirst);
-      const Kept second = cellAt(OrderSecond);
-      if (first.empty && second.empty) return;
-      if (OutOfOrder(first.value, second.value, cellAt(CurrentCell).value)) {
+      if (stale) {
+        first = valueOf(OrderFirst);
+        firstBlank = blank;
+        current = valueOf(CurrentCell);
+        stale = false;
+      }
+      const double second = valueOf(OrderSecond);
+      if (firstBlank && blank) return;
+      if (OutOfOrder(first, second, current)) {
         Refuse(kIncorrectNumberMessage);
-        kept.fill(Kept{});
+        kept.fill(Kept::Unread);
+        stale = true;
       }
     }
   }
@@ -173,10 +189,13 @@ void TicketScreen::Advance() {
   AdvanceCell(LineA, [this] { EntBox(); });
 }
 
+// Nothing here raises an event before the prompt, so CurrentCell names the
+// same two cells throughout, and each is looked up once.
 void TicketScreen::AdvanceCell(const ControlArray& cells, const std::function<void()>& prompt) {
-  cells(CurrentCell + 1).setLocked(false);
-  cells(CurrentCell + 1).setVisible(true);
-  cells(CurrentCell + 1).SetFocus();
+  Control& next = cells(CurrentCell + 1);
+  next.setLocked(false);
+  next.setVisible(true);
+  next.SetFocus();
   cells(CurrentCell).setLocked(true);
   LblEnterLine->setVisible(false);
   prompt();
