@@ -97,7 +97,7 @@ class Veridraw7f : public Form, private store::DrawFields {
   void ListClear();
   // Fills List1 with the draws on disk, probing 1 to 1500.
   void FileExists2();
-  // Searches the draws 1 to 1500 for DrawFileName: DrawFileMissing ends at 0
+  // Probes the draws 1 to 1500 for DrawFileName: DrawFileMissing ends at 0
   // when it is found, otherwise at 1 when any number on the way was free.
   void FileExists3();
   // Fills LstLottoTicket with the saved Lotto tickets, probing 1 to 100.
@@ -144,8 +144,8 @@ class Veridraw7f : public Form, private store::DrawFields {
   Integer PairFirst;
   Integer PairSecond;
   // One variable under two names, and that is behaviour: the outer counter of
-  // the sort at the end of a Lotto entry is the second counter of the search
-  // for repeats. A search interrupted by its own refusal goes on from where a
+  // the sort at the end of a Lotto entry is the second counter of the test
+  // for repeats. A test interrupted by its own refusal goes on from where a
   // nested run that completed the entry and sorted left the counter.
   Integer& SortOuter = PairSecond;
   Integer CopyIndex;

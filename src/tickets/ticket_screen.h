@@ -132,7 +132,7 @@ class TicketScreen : public Form, public store::DrawFields, public store::Ticket
   // Fills LstLottoTicket with the game's saved tickets; finding one sets
   // SavedTicketsExist.
   void FileExists2();
-  // Searches the game's saved tickets for TicketFileName: SavedTicketsExist
+  // Probes the game's saved tickets for TicketFileName: SavedTicketsExist
   // ends at 0 when it is found, otherwise at 1 when any number on the way was
   // free.
   void FileExists3();

@@ -112,12 +112,12 @@ TEST_F(DrawScreen, YesPacksTheSortedRowBonusAndPowerBall) {
   EXPECT_EQ(dialogs.shown.size(), 1u);
 }
 
-// The outer counter of the sort and the second counter of the search for
+// The outer counter of the sort and the second counter of the test for
 // repeats are one variable. A repeat typed into the spare cell 9 after a
 // complete entry is refused; the run nested in that refusal completes the
-// entry again and sorts, and the search that was interrupted goes on from the
+// entry again and sorts, and the test that was interrupted goes on from the
 // counter as the sort left it.
-TEST_F(DrawScreen, TheSortCounterIsTheSearchCounter) {
+TEST_F(DrawScreen, TheSortCounterIsTheRepeatTestCounter) {
   dialogs.textAnswers = {"1200"};
   click("BtnEnterLottoDrawNumbers");
   type("0102030405060708");
