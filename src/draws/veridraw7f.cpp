@@ -41,7 +41,8 @@ const Veridraw7f::EntryStart Veridraw7f::kStrikeStart = {
     .cells = &Veridraw7f::TxtStrikeNumbers,
 };
 
-Veridraw7f::Veridraw7f(Application& application) : Form(application, veridraw7fDesign()) {
+Veridraw7f::Veridraw7f(Application& application)
+    : Form(application, "Veridraw7f", designOnce<veridraw7fDesign>) {
   on("BtnEnterLottoDrawNumbers", Event::Click, [this] { BtnEnterLottoDrawNumbers_Click(); });
   on("BtnEnterStrikeNumbers", Event::Click, [this] { BtnEnterStrikeNumbers_Click(); });
   on("BtnCheckTickets", Event::Click, [this] { BtnCheckTickets_Click(); });

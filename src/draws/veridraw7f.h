@@ -45,9 +45,8 @@ class Veridraw7f : public Form, private store::DrawFields {
   // Lotto cells; the steps of the two are otherwise the same.
   struct EntryRules {
     const ControlArray Veridraw7f::*cells;
-    int scanBound;  // the scan goes on while CellIndex is at most this...
-    int scanStop;   // ...and not exactly this, which the bound already keeps it from
-    int lastCell;   // the cell whose completion ends the entry
+    int scanBound;                            // the scan goes on while CellIndex is at most this
+    int lastCell;                             // the cell whose completion ends the entry
     std::optional<int> exemptFromDuplicates;  // a cell, besides cell 1, not searched
     bool rangeWarningWhitens;                 // the range warning whitens the cell itself
     std::optional<CellColour> afterWarning;   // painted again after a whitening warning
@@ -92,10 +91,16 @@ class Veridraw7f : public Form, private store::DrawFields {
   void BtnNo2_Click();
 
   // Subs of the draw store.
+  // Asks for the number of the draw to enter, into CurrentDrawText.
   void DrawNumber();
+  // Empties the list of draws on disk, List1.
   void ListClear();
+  // Fills List1 with the draws on disk, probing 1 to 1500.
   void FileExists2();
+  // Probes the draws 1 to 1500 for DrawFileName: DrawFileMissing ends at 0
+  // when it is found, otherwise at 1 when any number on the way was free.
   void FileExists3();
+  // Fills LstLottoTicket with the saved Lotto tickets, probing 1 to 100.
   void FileExists4();
 
   // The steps that the two enter buttons share.
@@ -138,7 +143,11 @@ class Veridraw7f : public Form, private store::DrawFields {
   Integer CellIndex;
   Integer PairFirst;
   Integer PairSecond;
-  Integer& SortOuter = PairSecond;  // one variable under two names
+  // One variable under two names, and that is behaviour: the outer counter of
+  // the sort at the end of a Lotto entry is the second counter of the test
+  // for repeats. A test interrupted by its own refusal goes on from where a
+  // nested run that completed the entry and sorted left the counter.
+  Integer& SortOuter = PairSecond;
   Integer CopyIndex;
   Integer SortInner;
   Integer Reordered;

@@ -12,7 +12,6 @@ namespace veridraw {
 const Veridraw7f::EntryRules Veridraw7f::kLottoRules = {
     .cells = &Veridraw7f::TxtDrawnNumbers,
     .scanBound = 9,
-    .scanStop = 10,
     .lastCell = kLottoCells,
     .exemptFromDuplicates = kPowerBallCell,
     .rangeWarningWhitens = true,
@@ -26,7 +25,6 @@ const Veridraw7f::EntryRules Veridraw7f::kLottoRules = {
 const Veridraw7f::EntryRules Veridraw7f::kStrikeRules = {
     .cells = &Veridraw7f::TxtStrikeNumbers,
     .scanBound = 5,
-    .scanStop = 7,
     .lastCell = kStrikeCells,
     .exemptFromDuplicates = std::nullopt,
     .rangeWarningWhitens = false,
@@ -57,7 +55,7 @@ void Veridraw7f::TxtStrikeNumbers_Change() {
 // stands at the moment of use.
 void Veridraw7f::ScanCells(const EntryRules& rules) {
   CellIndex = 1;
-  while (CellIndex <= rules.scanBound && CellIndex != rules.scanStop) {
+  while (CellIndex <= rules.scanBound) {
     ScanCell(rules);
     CellIndex = CellIndex + 1;
   }

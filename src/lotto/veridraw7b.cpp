@@ -12,7 +12,7 @@ using tickets::kMainNumbers;
 using tickets::kRowStep;
 
 Veridraw7b::Veridraw7b(Application& application)
-    : TicketScreen(application, veridraw7bDesign(), lottoGame()) {}
+    : TicketScreen(application, "Veridraw7b", designOnce<veridraw7bDesign>, lottoGame()) {}
 
 void Veridraw7b::Form_Load() {
   LineCount = 0;
@@ -21,10 +21,7 @@ void Veridraw7b::Form_Load() {
     LineA(cell).setVisible(true);
     LineA(cell).setBackColor(colors::kWhite);
   }
-  for (int cell = 1; cell <= game_.gridCells(); ++cell) {
-    LineA(cell).setLocked(true);
-    IntResult(cell).setLocked(true);
-  }
+  LockGrids();
   store::ReadCurrentDraw(files(), *this);
   if (DrawNumbersText == "") {
     ShowNoNumbersMessage();
@@ -41,29 +38,19 @@ void Veridraw7b::List1_Click() {
   if (DrawNumbersText == "") {
     ShowNoNumbersMessage();
   } else if (SavedMode != 0) {
-    LblSpaceBar->setFontBold(false);
-    LblSpaceBar->setHeight(tickets::kTwoMessagesHeight);
-    LblSpaceBar->setCaption(tickets::kSavedTicketsHint);
-    LblSpaceBar->setVisible(true);
+    ShowMessage(tickets::kSavedTicketsHint, tickets::kTwoMessagesHeight, Bold::Off);
   }
   ShowDrawNumbers();
 }
 
 void Veridraw7b::ShowNoNumbersMessage() {
-  LblSpaceBar->setFontBold(true);
-  LblSpaceBar->setCaption(tickets::kNoNumbersMessage);
-  LblSpaceBar->setHeight(tickets::kOneMessageHeight);
-  LblSpaceBar->setVisible(true);
+  ShowMessage(tickets::kNoNumbersMessage, tickets::kOneMessageHeight, Bold::On);
 }
 
 // The draw number, the six numbers and the bonus: pairs 1 to 7 of the Lotto
 // line, from position 2, behind its mark. A draw without numbers gives "" and 0.
 void Veridraw7b::ShowDrawNumbers() {
-  TxtDrawBox->setText(CurrentDrawText);
-  for (int k = 1; k <= kBonus; ++k) {
-    TxtDrawnNumbers2(k).setText(Mid(DrawNumbersText, 2 * k, 2));
-    DrawNumbers(k) = Integer::fromDouble(Val(TxtDrawnNumbers2(k).text()));
-  }
+  ShowDrawPairs(TxtDrawnNumbers2, DrawNumbersText, kBonus, DrawNumbers, tickets::LenientInteger);
 }
 
 // The six main numbers are frozen for the check; the bonus is read from
@@ -115,13 +102,7 @@ void Veridraw7b::AddToDivision(int division, int step) {
 void Veridraw7b::CmdShowResults_Click() {
   const int cells = LineCount * game_.cellsPerLine;
   HideTicketForResults();
-  ImgCoins->setVisible(true);
-  ImgMoney->setVisible(true);
-  Image1->setVisible(false);
-  Image2->setVisible(false);
-  Image3->setVisible(true);
-  Image4->setVisible(true);
-  LblYouveWon->setCaption("CONGRATULATIONS You've WON !!!");
+  ShowPicturesOfAWin(true);
   bool prizes = false;
   for (int division = 1; division <= kDivisions; ++division)
     prizes = prizes || DivisionCount(division) != 0;

@@ -111,24 +111,13 @@ void Veridraw7e::CmdShowResults_Click() {
   for (int line = 1; line <= LineCount; ++line)
     TxtPowerBall(line).setVisible(false);
   LblPwrBall1(0).setVisible(false);
-  for (const ControlRef* shown : {&ImgCoins, &ImgMoney, &Image3, &Image4})
-    (*shown)->setVisible(true);
-  Image1->setVisible(false);
-  Image2->setVisible(false);
-  LblYouveWon->setCaption("CONGRATULATIONS You've WON !!!");
+  ShowPicturesOfAWin(true);
   if (TicketWonNothing()) {
-    for (int cell = 1; cell <= cells; ++cell) {
-      LineA(cell).setBackColor(colors::kPaleYellow);
-      LineA(cell).setBorderStyle(0);
-      LineA(cell).setVisible(true);
-    }
-    for (int line = 1; line <= LineCount; ++line) {
-      TextATxt(line).setVisible(true);
+    // Only pictures and labels are hidden on the way, so showing the column
+    // after them rather than beside the letters leaves the focus where it is.
+    ShowTicketWithoutPrizes(cells);
+    for (int line = 1; line <= LineCount; ++line)
       TxtPowerBall(line).setVisible(true);
-    }
-    LblYouveWon->setCaption("There are no Prizes on this Ticket");
-    for (const ControlRef* hidden : {&ImgCoins, &ImgMoney, &Image1, &Image2, &Image3, &Image4})
-      (*hidden)->setVisible(false);
     LblPwrBall1(0).setVisible(true);
   }
   LblYouveWon->setVisible(true);

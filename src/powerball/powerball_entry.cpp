@@ -145,22 +145,12 @@ void Veridraw7e::FinishPowerBallEntry() {
   const int cells = LineCount * game_.cellsPerLine;
   LblEnterLine->setVisible(false);
   TakeTicketCells();
-  for (int cell = 1; cell <= cells + 1; ++cell) {
-    LineA(cell).setBackColor(colors::kPaleYellow);
-    LineA(cell).setBorderStyle(0);
-  }
-  NumberSortRoutine();
-  for (int cell = 1; cell <= cells; ++cell)
-    IntResult(cell).setLocked(true);
+  PaintTicketAsDisplay(cells + 1, false);
+  CheckEnteredTicket(cells);
   ShowPowerBallCells(colors::kGreen);
   PwrBallBox();
-  BtnCheckNewTicket->setVisible(false);
-  LblSpaceBar->setCaption(tickets::kSavedTicketsHint);
-  LblSpaceBar->setHeight(tickets::kTwoMessagesHeight);
-  LblSpaceBar->setVisible(true);
-  BtnSaveTicket->setVisible(true);
-  CmdShowResults->setVisible(true);
-  CmdShowResults->SetFocus();
+  OfferTicketSave();
+  FocusShowResults();
 }
 
 // The one number into every line's cell. Each assignment runs the column's
@@ -172,15 +162,10 @@ void Veridraw7e::FillPowerBallColumn() {
   for (LineNumber = 1; LineNumber <= lines; LineNumber = LineNumber + 1)
     TxtPowerBall(LineNumber).setText(TxtPwrBallNumber(1).text());
   ShowPowerBallCells(colors::kGreen);
-  BtnCheckNewTicket->setVisible(false);
-  LblSpaceBar->setCaption(tickets::kSavedTicketsHint);
-  LblSpaceBar->setHeight(tickets::kTwoMessagesHeight);
-  LblSpaceBar->setVisible(true);
-  BtnSaveTicket->setVisible(true);
+  OfferTicketSave();
   TxtNoofLines->setVisible(false);
   TxtPwrBallNumber(1).setVisible(false);
-  CmdShowResults->setVisible(true);
-  CmdShowResults->SetFocus();
+  FocusShowResults();
 }
 
 // The prompt for the line after the cell just filled. It is never moved back,

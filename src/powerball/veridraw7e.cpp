@@ -18,7 +18,7 @@ constexpr double kHintFontSize = 10;
 }  // namespace
 
 Veridraw7e::Veridraw7e(Application& application)
-    : TicketScreen(application, veridraw7eDesign(), powerBallGame()),
+    : TicketScreen(application, "Veridraw7e", designOnce<veridraw7eDesign>, powerBallGame()),
       powerBallColumn_{PowerBallText, [this](int line) { return TxtPowerBall(line).text(); }} {
   on("BtnYes", Event::Click, [this] { BtnYes_Click(); });
   on("BtnNo", Event::Click, [this] { BtnNo_Click(); });
@@ -45,26 +45,10 @@ void Veridraw7e::Form_Load() {
     TextATxt(line).setVisible(false);
   for (int cell = 61; cell <= game_.gridCells(); ++cell)
     LineA(cell).setVisible(false);
-  for (int cell = 1; cell <= game_.gridCells(); ++cell) {
-    LineA(cell).setLocked(true);
-    IntResult(cell).setLocked(true);
-  }
+  LockGrids();
   store::ReadCurrentDraw(files(), *this);
-  LblSpaceBar->setVisible(false);
-  if (StrictNumber(CurrentDrawText) < store::kFirstPowerBallDraw) {
-    LblSpaceBar->setFontBold(true);
-    LblSpaceBar->setCaption(kBeforePowerBall);
-    LblSpaceBar->setVisible(true);
-  } else if (DrawNumbersText == "") {
-    LblSpaceBar->setCaption(tickets::kNoNumbersMessage);
-    LblSpaceBar->setVisible(true);
-  } else {
-    TxtDrawBox->setText(CurrentDrawText);
-    for (int pair = 1; pair <= kDrawPairs; ++pair) {
-      TxtDrawnNumbers2(pair).setText(Mid(DrawNumbersText, 2 * pair, 2));
-      DrawNumbers(pair) = StrictInteger(TxtDrawnNumbers2(pair).text());
-    }
-  }
+  ShowDrawOnLoad(store::kFirstPowerBallDraw, kBeforePowerBall, DrawNumbersText,
+                 [this] { ShowDrawLine(StrictInteger); });
   ShowHomeChoices();
 }
 
@@ -75,31 +59,18 @@ void Veridraw7e::List1_Click() {
   store::SelectDraw(files(), *this, List1->text());
   LblSpaceBar->setVisible(false);
   if (StrictNumber(CurrentDrawText) < store::kFirstPowerBallDraw) {
-    LblSpaceBar->setFontBold(true);
-    LblSpaceBar->setHeight(tickets::kOneMessageHeight);
-    LblSpaceBar->setCaption(kBeforePowerBall);
-    LblSpaceBar->setVisible(true);
+    ShowMessage(kBeforePowerBall, tickets::kOneMessageHeight, Bold::On);
   } else if (DrawNumbersText != "") {
-    if (SavedMode == 1) {
-      LblSpaceBar->setFontBold(false);
-      LblSpaceBar->setHeight(tickets::kTwoMessagesHeight);
-      LblSpaceBar->setCaption(tickets::kSavedTicketsHint);
-      LblSpaceBar->setVisible(true);
-    }
+    if (SavedMode == 1)
+      ShowMessage(tickets::kSavedTicketsHint, tickets::kTwoMessagesHeight, Bold::Off);
   } else {
-    LblSpaceBar->setHeight(tickets::kOneMessageHeight);
-    LblSpaceBar->setCaption(tickets::kNoNumbersMessage);
-    LblSpaceBar->setVisible(true);
+    ShowMessage(tickets::kNoNumbersMessage, tickets::kOneMessageHeight);
   }
-  ShowDrawLine();
+  ShowDrawLine(tickets::LenientInteger);
 }
 
-void Veridraw7e::ShowDrawLine() {
-  TxtDrawBox->setText(CurrentDrawText);
-  for (int pair = 1; pair <= kDrawPairs; ++pair) {
-    TxtDrawnNumbers2(pair).setText(Mid(DrawNumbersText, 2 * pair, 2));
-    DrawNumbers(pair) = Integer::fromDouble(Val(TxtDrawnNumbers2(pair).text()));
-  }
+void Veridraw7e::ShowDrawLine(Integer (*convert)(std::string_view pair)) {
+  ShowDrawPairs(TxtDrawnNumbers2, DrawNumbersText, kDrawPairs, DrawNumbers, convert);
 }
 
 // The hint of the Space Bar in the size of this screen's messages. Set after

@@ -9,6 +9,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 #include "screen/application.h"
 #include "screen/checked_array.h"
@@ -28,7 +29,8 @@ class Veridraw7e : public tickets::TicketScreen {
   // The screen and its draw (veridraw7e.cpp).
   void Form_Load() override;
   void List1_Click() override;
-  void ShowDrawLine();
+  // The draw's number and its eight pairs, converted by `convert`.
+  void ShowDrawLine(Integer (*convert)(std::string_view pair));
   void BtnCheckNewTicket_Click() override;
   void BtnCancel_Click() override;
   void ClearResults() override;
@@ -51,7 +53,10 @@ class Veridraw7e : public tickets::TicketScreen {
   void FinishPowerBallEntry();
   void FillPowerBallColumn();
   void ShowCheckedTicket();
+  // Moves the prompt of the PowerBall column to the line after the cell just
+  // filled.
   void PBEntBox();
+  // Parks the cover box of the column over the spare box after the last line.
   void PwrBallBox();
 
   // The check (powerball_check.cpp).
@@ -72,11 +77,16 @@ class Veridraw7e : public tickets::TicketScreen {
   CheckedArray<Integer> DivisionCount{1, 5};
   CheckedArray<Integer> PowerBallDivisionCount{1, 5};
   Integer MatchCount;
-  // One variable under two names: the row being placed uses the match count's.
-  Integer& DivisionRowTop = MatchCount;
+  // The Top of the prize row being placed. The check sets MatchCount before
+  // each line and the results set this before the first row, so neither ever
+  // reads what the other left: they are two variables.
+  Integer DivisionRowTop;
   Integer BonusMatched;
-  // One variable under two names: the answer to the question is read by the
-  // check once on entry, which then uses it for the bonus of each line.
+  // One variable under two names, and that is behaviour: the answer to the
+  // question is read by the check once, on entry, and the check then keeps
+  // the bonus of each line in it. A later check of the same ticket, when the
+  // spare box of the column is typed into after the entry, finds there the
+  // bonus of the last line instead of the answer.
   Integer& SameForAllLines = BonusMatched;
   Integer PowerBallMatched;
   // The line counter of the fill of the column and of the check: the check

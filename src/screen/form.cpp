@@ -9,7 +9,22 @@
 namespace veridraw {
 
 Form::Form(Application& application, FormDesign design)
-    : application_(application), design_(std::move(design)) {}
+    : application_(application),
+      name_(design.name),
+      ownDesign_(std::make_unique<const FormDesign>(std::move(design))),
+      design_(ownDesign_.get()) {}
+
+Form::Form(Application& application, std::string name, DesignSource source)
+    : application_(application), name_(std::move(name)), designSource_(source) {}
+
+const FormDesign& Form::design() const {
+  if (design_ == nullptr) {
+    const FormDesign& made = designSource_();
+    if (made.name != name_) throw std::logic_error(name_ + " has the design table of " + made.name);
+    design_ = &made;
+  }
+  return *design_;
+}
 
 Form::~Form() = default;
 
@@ -17,7 +32,7 @@ void Form::load() {
   controls_.clear();
   byName_.clear();
   focus_ = nullptr;
-  for (const ControlDesign& design : design_.controls) {
+  for (const ControlDesign& design : design().controls) {
     controls_.push_back(std::make_unique<Control>(*this, design));
     NamedControls& named = byName_[design.name];
     if (design.index == kNotInArray) {
@@ -32,7 +47,7 @@ void Form::load() {
   std::vector<std::pair<int, Control*>> order;
   const int afterExplicit = static_cast<int>(controls_.size());
   for (std::size_t i = 0; i < controls_.size(); ++i) {
-    const int designed = design_.controls[i].tabIndex;
+    const int designed = design().controls[i].tabIndex;
     order.emplace_back(designed == kDefault ? afterExplicit + static_cast<int>(i) : designed,
                        controls_[i].get());
   }
@@ -74,13 +89,13 @@ bool Form::hasControlNamed(std::string_view name) const {
 
 Control& Form::control(std::string_view name) {
   if (Control* found = find(name)) return *found;
-  throw std::logic_error(design_.name + " has no control " + std::string(name));
+  throw std::logic_error(name_ + " has no control " + std::string(name));
 }
 
 Control& Form::control(std::string_view name, int index) {
   if (Control* found = find(name, index)) return *found;
   if (!hasControlNamed(name))
-    throw std::logic_error(design_.name + " has no control array " + std::string(name));
+    throw std::logic_error(name_ + " has no control array " + std::string(name));
   raiseMissingElement(index);
 }
 

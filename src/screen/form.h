@@ -33,15 +33,33 @@ struct FormDesign {
   std::vector<ControlDesign> controls;
 };
 
+// Where a form finds its design table: a function that gives the same table
+// at every call.
+using DesignSource = const FormDesign& (*)();
+
+// The design table that `build` makes, made at the first call and kept for the
+// rest of the run: the program makes its forms anew at every start, and a
+// design table never changes.
+template <FormDesign (*build)()>
+const FormDesign& designOnce() {
+  static const FormDesign design = build();
+  return design;
+}
+
 class Form {
  public:
+  // A form with a design table of its own.
   Form(Application& application, FormDesign design);
+  // A form named `name` whose table comes from `source` when it is first
+  // needed, at the first Load or the first look at the design; a form that
+  // is never shown never has its table made. The table must bear that name.
+  Form(Application& application, std::string name, DesignSource source);
   Form(const Form&) = delete;
   Form& operator=(const Form&) = delete;
   virtual ~Form();
 
-  const std::string& name() const { return design_.name; }
-  const FormDesign& design() const { return design_; }
+  const std::string& name() const { return name_; }
+  const FormDesign& design() const;
   Application& application() const { return application_; }
 
   bool loaded() const { return loaded_; }
@@ -96,7 +114,10 @@ class Form {
   void setFocusPointer(Control* control) { focus_ = control; }
 
   Application& application_;
-  FormDesign design_;
+  std::string name_;
+  std::unique_ptr<const FormDesign> ownDesign_;
+  DesignSource designSource_ = nullptr;
+  mutable const FormDesign* design_ = nullptr;
   bool loaded_ = false;
   int generation_ = 0;
   std::vector<std::unique_ptr<Control>> controls_;

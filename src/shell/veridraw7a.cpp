@@ -2,7 +2,8 @@
 
 namespace veridraw {
 
-Veridraw7a::Veridraw7a(Application& application) : Form(application, veridraw7aDesign()) {
+Veridraw7a::Veridraw7a(Application& application)
+    : Form(application, "Veridraw7a", designOnce<veridraw7aDesign>) {
   on("BtnStart", Event::Click, [this] { BtnStart_Click(); });
   on("CmdReadme", Event::Click, [this] { CmdReadme_Click(); });
   on("CmdForm1Exit", Event::Click, [this] { CmdForm1Exit_Click(); });

@@ -2,7 +2,8 @@
 
 namespace veridraw {
 
-Veridraw7d::Veridraw7d(Application& application) : Form(application, veridraw7dDesign()) {
+Veridraw7d::Veridraw7d(Application& application)
+    : Form(application, "Veridraw7d", designOnce<veridraw7dDesign>) {
   on("BtnStart", Event::Click, [this] { BtnStart_Click(); });
   on("CmdDisclaimer", Event::Click, [this] { CmdDisclaimer_Click(); });
 }

@@ -12,4 +12,8 @@ bool IsOutOfRange(const std::string& text) {
   return (IsFullCell(text) && Val(text) < kLowestNumber) || Val(text) > kHighestNumber;
 }
 
+bool IsOutOfRange(const std::string& text, double value) {
+  return (IsFullCell(text) && value < kLowestNumber) || value > kHighestNumber;
+}
+
 }  // namespace veridraw

@@ -24,5 +24,7 @@ bool IsFullCell(const std::string& text);
 // A full cell that Val reads below 1, or any cell that Val reads above 40.
 // Letters read as 0; a digit followed by anything reads as that digit.
 bool IsOutOfRange(const std::string& text);
+// The same, for a text whose value by Val is already known.
+bool IsOutOfRange(const std::string& text, double value);
 
 }  // namespace veridraw

@@ -31,7 +31,7 @@ void Veridraw7c::NumberSortRoutine() {
     MatchCount = 0;
     for (int p = 1; p <= game_.cellsPerLine; ++p) {
       if (TicketCells(cell) == DrawNumbers(p)) {
-        IntResult(cell).setText(TxtStrike(cell).text());
+        IntResult(cell).setText(LineA(cell).text());
         MatchCount = MatchCount + 1;
       }
       cell = cell + 1;
@@ -50,20 +50,14 @@ void Veridraw7c::NumberSortRoutine() {
 // pictures go. The rows stand from the highest prize down; the first slot at
 // 1800 belongs to the Strike 4 row alone.
 void Veridraw7c::CmdShowResults_Click() {
-  for (const ControlRef* hidden :
-       {&LblSaved, &BtnCheckNewTicket, &BtnCancel, &BtnSaveTicket, &CmdShowResults})
-    (*hidden)->setVisible(false);
+  HideTicketButtons();
   for (int head = 1; head <= game_.cellsPerLine; ++head)
     Txt1ST(head).setVisible(false);
   for (int cell = 1; cell <= game_.gridCells(); ++cell)
-    TxtStrike(cell).setVisible(false);
+    LineA(cell).setVisible(false);
   for (int line = 1; line <= LineCount; ++line)
     TextATxt(line).setVisible(false);
-  ImgCoins->setVisible(true);
-  ImgMoney->setVisible(true);
-  Image1->setVisible(false);
-  Image2->setVisible(false);
-  LblYouveWon->setCaption("CONGRATULATIONS You've WON !!!");
+  ShowPicturesOfAWin(false);
   bool prizes = false;
   for (int hits = 1; hits <= kMostHits; ++hits)
     prizes = prizes || StrikeCount(hits) != 0;

@@ -23,23 +23,23 @@ void Veridraw7c::OwnNumRoutine() {
 void Veridraw7c::NumberOfLines() {
   TicketScreen::OwnNumRoutine();
   for (int cell = 1; cell <= game_.gridCells(); ++cell)
-    TxtStrike(cell).setFontSize(kTypingFontSize);
-  TxtStrike(1).setText(" ");
-  TxtStrike(1).SetFocus();
+    LineA(cell).setFontSize(kTypingFontSize);
+  LineA(1).setText(" ");
+  LineA(1).SetFocus();
 }
 
 // A number may stand only once in a line, whatever its place: the number typed
-// last is the one that is thrown out. Numbers are compared by value.
-bool Veridraw7c::OutOfOrder() {
-  return CellValue(RepeatSecond) == CellValue(RepeatFirst) ||
-         CellValue(CurrentCell) == CellValue(RepeatFirst);
+// last is the one that is thrown out. Numbers are compared by value: those of
+// the cells OrderFirst, OrderSecond and CurrentCell.
+bool Veridraw7c::OutOfOrder(double first, double second, double current) const {
+  return second == first || current == first;
 }
 
 void Veridraw7c::EndOfEntry() {
   TicketScreen::EndOfEntry();
   const int cells = LineCount * game_.cellsPerLine;
   for (int cell = 1; cell <= cells; ++cell)
-    TxtStrike(cell).setFontSize(kEnteredFontSize);
+    LineA(cell).setFontSize(kEnteredFontSize);
 }
 
 }  // namespace veridraw

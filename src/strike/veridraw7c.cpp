@@ -16,14 +16,10 @@ constexpr int kFirstSpare = 49;
 constexpr int kLastSpare = 51;
 constexpr double kHintFontSize = 10;
 
-Integer LenientInteger(std::string_view pair) {
-  return Integer::fromDouble(Val(pair));
-}
-
 }  // namespace
 
 Veridraw7c::Veridraw7c(Application& application)
-    : TicketScreen(application, veridraw7cDesign(), strikeGame()) {}
+    : TicketScreen(application, "Veridraw7c", designOnce<veridraw7cDesign>, strikeGame()) {}
 
 // Shows three empty lines, reads the current draw and offers the two roads.
 // LineCount is left as it was. Below draw 293, or on a draw without Strike
@@ -32,33 +28,21 @@ Veridraw7c::Veridraw7c(Application& application)
 void Veridraw7c::Form_Load() {
   SavedMode = 0;
   for (int cell = 1; cell <= game_.homeCells; ++cell) {
-    TxtStrike(cell).setVisible(true);
-    TxtStrike(cell).setBackColor(colors::kWhite);
-    TxtStrike(cell).setBorderStyle(1);
+    LineA(cell).setVisible(true);
+    LineA(cell).setBackColor(colors::kWhite);
+    LineA(cell).setBorderStyle(1);
   }
   const int homeLines = game_.homeCells / game_.cellsPerLine;
   for (int line = homeLines + 1; line <= game_.mostLines; ++line)
     TextATxt(line).setVisible(false);
   for (int cell = game_.homeCells + 1; cell <= game_.gridCells(); ++cell)
-    TxtStrike(cell).setVisible(false);
-  for (int cell = 1; cell <= game_.gridCells(); ++cell) {
-    TxtStrike(cell).setLocked(true);
-    IntResult(cell).setLocked(true);
-  }
+    LineA(cell).setVisible(false);
+  LockGrids();
   for (int spare = kFirstSpare; spare <= kLastSpare; ++spare)
-    TxtStrike(spare).setLocked(true);
+    LineA(spare).setLocked(true);
   store::ReadCurrentDraw(files(), *this);
-  LblSpaceBar->setVisible(false);
-  if (StrictNumber(CurrentDrawText) < store::kFirstStrikeDraw) {
-    LblSpaceBar->setFontBold(true);
-    LblSpaceBar->setCaption(kBeforeStrike);
-    LblSpaceBar->setVisible(true);
-  } else if (StrikeNumbersText == "") {
-    LblSpaceBar->setCaption(tickets::kNoNumbersMessage);
-    LblSpaceBar->setVisible(true);
-  } else {
-    TakeDrawnNumbers(StrictInteger);
-  }
+  ShowDrawOnLoad(store::kFirstStrikeDraw, kBeforeStrike, StrikeNumbersText,
+                 [this] { TakeDrawnNumbers(StrictInteger); });
   ShowHomeChoices();
 }
 
@@ -70,33 +54,19 @@ void Veridraw7c::List1_Click() {
   store::SelectDraw(files(), *this, List1->text());
   LblSpaceBar->setFontBold(false);
   LblSpaceBar->setVisible(false);
-  if (StrictNumber(CurrentDrawText) < store::kFirstStrikeDraw) {
-    LblSpaceBar->setFontBold(true);
-    LblSpaceBar->setCaption(kBeforeStrike);
-    LblSpaceBar->setHeight(tickets::kOneMessageHeight);
-    LblSpaceBar->setVisible(true);
-  } else if (StrikeNumbersText == "") {
-    LblSpaceBar->setFontBold(true);
-    LblSpaceBar->setCaption(tickets::kNoNumbersMessage);
-    LblSpaceBar->setHeight(tickets::kOneMessageHeight);
-    LblSpaceBar->setVisible(true);
-  } else if (SavedMode != 0) {
-    LblSpaceBar->setFontBold(false);
-    LblSpaceBar->setHeight(tickets::kTwoMessagesHeight);
-    LblSpaceBar->setCaption(tickets::kSavedTicketsHint);
-    LblSpaceBar->setVisible(true);
-  }
-  TakeDrawnNumbers(LenientInteger);
+  if (StrictNumber(CurrentDrawText) < store::kFirstStrikeDraw)
+    ShowMessage(kBeforeStrike, tickets::kOneMessageHeight, Bold::On);
+  else if (StrikeNumbersText == "")
+    ShowMessage(tickets::kNoNumbersMessage, tickets::kOneMessageHeight, Bold::On);
+  else if (SavedMode != 0)
+    ShowMessage(tickets::kSavedTicketsHint, tickets::kTwoMessagesHeight, Bold::Off);
+  TakeDrawnNumbers(tickets::LenientInteger);
 }
 
 // The draw number, and the four pairs of the Strike line behind its "Z" in the
 // order in which they were drawn. They are never sorted.
 void Veridraw7c::TakeDrawnNumbers(Integer (*convert)(std::string_view pair)) {
-  TxtDrawBox->setText(CurrentDrawText);
-  for (int p = 1; p <= kStrikeNumbers; ++p) {
-    TxtStrikeNumbers2(p).setText(Mid(StrikeNumbersText, 2 * p, 2));
-    DrawNumbers(p) = convert(TxtStrikeNumbers2(p).text());
-  }
+  ShowDrawPairs(TxtStrikeNumbers2, StrikeNumbersText, kStrikeNumbers, DrawNumbers, convert);
 }
 
 // Unlike the Lotto screen, the road of a new ticket fills the list of saved

@@ -23,14 +23,17 @@ class Veridraw7c : public tickets::TicketScreen {
   // The screen and its draw.
   void Form_Load() override;
   void List1_Click() override;
+  // The draw's number and its four Strike numbers, converted by `convert`.
   void TakeDrawnNumbers(Integer (*convert)(std::string_view pair));
   void BtnCheckNewTicket_Click() override;
   void BtnCheckSavedTickets_Click() override;
 
   // The entry of a ticket.
   void OwnNumRoutine() override;
+  // The Strike name of OwnNumRoutine: the shared preparation of the grid, then
+  // the typing font of every cell, and cell 1 emptied and given the focus.
   void NumberOfLines();
-  bool OutOfOrder() override;
+  bool OutOfOrder(double first, double second, double current) const override;
   void EndOfEntry() override;
 
   // The check.
@@ -42,14 +45,14 @@ class Veridraw7c : public tickets::TicketScreen {
   CheckedArray<Integer> DrawNumbers{0, 4};
   CheckedArray<Integer> StrikeCount{1, 4};
   Integer MatchCount;
-  // The top of the prize row being placed lives in the storage of MatchCount:
-  // the two are never in use together.
-  Integer& StrikeRowTop = MatchCount;
-  // The repeat test of a line runs on the counters of the shared walk.
-  Integer& RepeatFirst = OrderFirst;
-  Integer& RepeatSecond = OrderSecond;
+  // The Top of the prize row being placed. The check sets MatchCount before
+  // each line and the results set this before the first row, so neither ever
+  // reads what the other left: they are two variables.
+  Integer StrikeRowTop;
 
-  const ControlArray& TxtStrike = LineA;
+  // The cells of this screen, the control array TxtStrike, are the shared
+  // LineA; the repeat test of a line runs on the counters of the shared walk,
+  // OrderFirst and OrderSecond.
   const ControlArray TxtStrikeNumbers2{*this, "TxtStrikeNumbers2"};
   const ControlArray Txt1ST{*this, "Txt1ST"};
 };

@@ -9,6 +9,7 @@
 // reads the counters as the inner one left them and runs out: that is how a
 // refused number gives exactly one message. The loops are kept as they stand
 // for that reason, each bound taken once when its loop starts.
+#include <array>
 #include <cstddef>
 
 #include "screen/dialogs.h"
@@ -54,9 +55,7 @@ void TicketScreen::OwnNumRoutine() {
   BtnCancel->setVisible(false);
   ShowLineButtons(false);
   LblEnterLine->setVisible(true);
-  LblSpaceBar->setCaption(kSpaceBarHint);
-  LblSpaceBar->setHeight(kOneMessageHeight);
-  LblSpaceBar->setVisible(true);
+  ShowMessage(kSpaceBarHint, kOneMessageHeight);
   LineA(game_.coverCell()).setBackColor(colors::kPaleYellow);
   LineA(1).SetFocus();
 }
@@ -67,10 +66,21 @@ void TicketScreen::LineA_Change() {
   LineStartCell = 1;
   const int bound = LineCount * game_.cellsPerLine + 2;
   for (CurrentCell = 1; CurrentCell <= bound; CurrentCell = CurrentCell + 1) {
-    BacktrackTest();
-    RangeTest();
-    if (Len(LineA(CurrentCell).text()) == kCompleteCell && CurrentCell != 1) OrderTest();
-    if (Len(LineA(CurrentCell).text()) == kCompleteCell) {
+    // Each test of a step reads the cell afresh, since the one before may have
+    // changed it. When the first reading shows that the space bar and the
+    // range have nothing to do (cell 1 steps back from nothing), nothing
+    // changes until the order test, and that one reading serves them all.
+    const CellReading& cell = Reading(CurrentCell);
+    if ((cell.stepBack && CurrentCell != 1) || cell.outOfRange) {
+      BacktrackTest();
+      RangeTest();
+      if (Reading(CurrentCell).length == kCompleteCell && CurrentCell != 1) OrderTest();
+    } else if (cell.length != kCompleteCell) {
+      continue;
+    } else if (CurrentCell != 1) {
+      OrderTest();
+    }
+    if (Reading(CurrentCell).length == kCompleteCell) {
       Advance();
       if (CurrentCell == LineCount * game_.cellsPerLine) EndOfEntry();
     }
@@ -80,7 +90,7 @@ void TicketScreen::LineA_Change() {
 // The space bar in an empty cell empties the cell before it, and gives it the
 // focus. Cell 1 has no cell before it, and its two blanks stay.
 void TicketScreen::BacktrackTest() {
-  if (CurrentCell == 1 || LineA(CurrentCell).text() != kStepBackCell) return;
+  if (CurrentCell == 1 || !Reading(CurrentCell).stepBack) return;
   LineA(CurrentCell - 1).setLocked(false);
   LineA(CurrentCell - 1).SetFocus();
   LineA(CurrentCell - 1).setText(kEmptyCell);
@@ -89,28 +99,75 @@ void TicketScreen::BacktrackTest() {
 
 // A value above 40 is refused at once; one below 1 when the cell is complete.
 void TicketScreen::RangeTest() {
-  if (IsOutOfRange(LineA(CurrentCell).text())) Refuse(kRangeMessage, game_.rangeRefusalShowsPrompt);
+  if (Reading(CurrentCell).outOfRange) Refuse(kRangeMessage, game_.rangeRefusalShowsPrompt);
 }
 
 // Each pair of cells from the start of the line up to the complete cell must be
 // in the order of the game. The test never looks back across LineStartCell, so
 // equal numbers on different lines pass.
+//
+// Every comparison reads the cells that the counters name as they stand. A
+// cell is read once for the step and its number kept, by its place from the
+// start of the line, since nothing between two comparisons changes a text; a
+// refusal empties the cell and runs the walk nested, which moves the counters
+// and may change any cell, so after one every cell is read again.
 void TicketScreen::OrderTest() {
+  // The cells kept, by their place from the cell where the line starts: not
+  // read yet, read and blank, or read and holding the kept value.
+  enum class Kept : unsigned char { Unread, Blank, Number };
+  constexpr int kKeptCells = 16;
+  std::array<Kept, kKeptCells> kept;
+  kept.fill(Kept::Unread);
+  std::array<double, kKeptCells> values;
+  const int firstKept = LineStartCell;
+  bool blank = false;  // what the last look at a cell found
+  const auto valueOf = [&](int cell) {
+    const auto place = static_cast<unsigned>(cell - firstKept);
+    if (place >= static_cast<unsigned>(kKeptCells)) {
+      const CellReading& reading = Reading(cell);
+      blank = reading.empty;
+      return reading.value;
+    }
+    if (kept[place] == Kept::Unread) {
+      const CellReading& reading = Reading(cell);
+      kept[place] = reading.empty ? Kept::Blank : Kept::Number;
+      values[place] = reading.value;
+    }
+    blank = kept[place] == Kept::Blank;
+    return values[place];
+  };
+  // The cells OrderFirst and CurrentCell stay the same cells along the inner
+  // loop until a refusal moves the counters.
+  double first = 0;
+  double current = 0;
+  bool firstBlank = false;
+  bool stale = true;
   const int lastFirst = CurrentCell;
   for (OrderFirst = LineStartCell; OrderFirst <= lastFirst; OrderFirst = OrderFirst + 1) {
     const int lastSecond = CurrentCell;
+    stale = true;
     for (OrderSecond = OrderFirst + 1; OrderSecond <= lastSecond; OrderSecond = OrderSecond + 1) {
-      if (LineA(OrderFirst).text() == kEmptyCell && LineA(OrderSecond).text() == kEmptyCell) return;
-      if (OutOfOrder()) Refuse(kIncorrectNumberMessage);
+      if (stale) {
+        first = valueOf(OrderFirst);
+        firstBlank = blank;
+        current = valueOf(CurrentCell);
+        stale = false;
+      }
+      const double second = valueOf(OrderSecond);
+      if (firstBlank && blank) return;
+      if (OutOfOrder(first, second, current)) {
+        Refuse(kIncorrectNumberMessage);
+        kept.fill(Kept::Unread);
+        stale = true;
+      }
     }
   }
 }
 
 // The numbers of a line ascend strictly from left to right, which refuses a
 // repeated number as well.
-bool TicketScreen::OutOfOrder() {
-  return CellValue(OrderFirst) >= CellValue(OrderSecond) ||
-         CellValue(CurrentCell) == CellValue(OrderFirst);
+bool TicketScreen::OutOfOrder(double first, double second, double current) const {
+  return first >= second || current == first;
 }
 
 void TicketScreen::Refuse(const std::string& message, bool showPrompt) {
@@ -132,10 +189,13 @@ void TicketScreen::Advance() {
   AdvanceCell(LineA, [this] { EntBox(); });
 }
 
+// Nothing here raises an event before the prompt, so CurrentCell names the
+// same two cells throughout, and each is looked up once.
 void TicketScreen::AdvanceCell(const ControlArray& cells, const std::function<void()>& prompt) {
-  cells(CurrentCell + 1).setLocked(false);
-  cells(CurrentCell + 1).setVisible(true);
-  cells(CurrentCell + 1).SetFocus();
+  Control& next = cells(CurrentCell + 1);
+  next.setLocked(false);
+  next.setVisible(true);
+  next.SetFocus();
   cells(CurrentCell).setLocked(true);
   LblEnterLine->setVisible(false);
   prompt();
@@ -163,19 +223,34 @@ void TicketScreen::EndOfEntry() {
   const int cells = LineCount * game_.cellsPerLine;
   LineA(cells + 1).SetFocus();
   TakeTicketCells();
+  PaintTicketAsDisplay(cells, false);
+  CheckEnteredTicket(cells);
+  OfferTicketSave();
+  LineA(1).setTabStop(false);
+  FocusShowResults();
+}
+
+void TicketScreen::PaintTicketAsDisplay(int cells, bool show) {
   for (int cell = 1; cell <= cells; ++cell) {
     LineA(cell).setBackColor(colors::kPaleYellow);
     LineA(cell).setBorderStyle(0);
+    if (show) LineA(cell).setVisible(true);
   }
+}
+
+void TicketScreen::CheckEnteredTicket(int cells) {
   NumberSortRoutine();
   for (int cell = 1; cell <= cells; ++cell)
     IntResult(cell).setLocked(true);
+}
+
+void TicketScreen::OfferTicketSave() {
   BtnCheckNewTicket->setVisible(false);
-  LblSpaceBar->setCaption(kSavedTicketsHint);
-  LblSpaceBar->setHeight(kTwoMessagesHeight);
-  LblSpaceBar->setVisible(true);
+  ShowMessage(kSavedTicketsHint, kTwoMessagesHeight);
   BtnSaveTicket->setVisible(true);
-  LineA(1).setTabStop(false);
+}
+
+void TicketScreen::FocusShowResults() {
   CmdShowResults->setVisible(true);
   CmdShowResults->SetFocus();
 }

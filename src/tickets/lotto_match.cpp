@@ -8,12 +8,14 @@ namespace veridraw::tickets {
 void TicketScreen::MatchLottoLine(Integer& cell, const CheckedArray<Integer>& CheckNumbers,
                                   Integer bonus, Integer& MatchCount, Integer& BonusMatched) {
   for (int position = 1; position <= game_.cellsPerLine; ++position) {
+    // Nothing in the loop changes the ticket's number, so it is taken once.
+    const Integer number = TicketCells(cell);
     for (int k = 1; k <= kMainNumbers; ++k) {
-      if (TicketCells(cell) == CheckNumbers(k)) {
+      if (number == CheckNumbers(k)) {
         IntResult(cell).setText(LineA(cell).text());
         MatchCount = MatchCount + 1;
       }
-      if (TicketCells(cell) == bonus) {
+      if (number == bonus) {
         IntResult(cell).setText(LineA(cell).text());
         IntResult(cell).setBackColor(colors::kBlue);
         IntResult(cell).setForeColor(colors::kWhite);

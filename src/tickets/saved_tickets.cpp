@@ -31,11 +31,6 @@ void TicketScreen::ListClear1() {
   store::ClearList(*List2, kTicketListClears);
 }
 
-// Empties the list of draws. No event of the Lotto screen calls it.
-void TicketScreen::ListClear2() {
-  store::ClearList(*List1, store::kListedDraws);
-}
-
 // The draws of the game that are on disk, in ascending order; a draw above
 // 1500 is in no list.
 void TicketScreen::FileExists() {
@@ -98,11 +93,7 @@ void TicketScreen::LstLottoTicket_Click() {
     LineA(cell).setText(store::TicketPair(TicketLineText, cell));
   LoadColumn();
   FreezeDraw();
-  for (int cell = 1; cell <= cells; ++cell) {
-    LineA(cell).setBackColor(colors::kPaleYellow);
-    LineA(cell).setBorderStyle(0);
-    LineA(cell).setVisible(true);
-  }
+  PaintTicketAsDisplay(cells, true);
   PaintColumn();
   for (int cell = 1; cell <= cells; ++cell)
     TicketCells(cell) = CellInteger(cell);

@@ -23,12 +23,17 @@ constexpr double kNoTicketsFontSize = 10;
 
 }  // namespace
 
+Integer LenientInteger(std::string_view pair) {
+  return Integer::fromDouble(Val(pair));
+}
+
 char LineLetter(int line) {
   return static_cast<char>(line <= 8 ? 'A' + line - 1 : 'A' + line);
 }
 
-TicketScreen::TicketScreen(Application& application, FormDesign design, TicketGame game)
-    : Form(application, std::move(design)),
+TicketScreen::TicketScreen(Application& application, std::string name, DesignSource design,
+                           TicketGame game)
+    : Form(application, std::move(name), design),
       game_(std::move(game)),
       TicketCells(0, game_.lastTicketCell) {
   on("BtnCheckNewTicket", Event::Click, [this] { BtnCheckNewTicket_Click(); });
@@ -46,8 +51,31 @@ TicketScreen::TicketScreen(Application& application, FormDesign design, TicketGa
   on("BtnDeleteTicket", Event::Click, [this] { BtnDeleteTicket_Click(); });
 }
 
+// A missing element is fatal 340 here, as a read of its text would be, before
+// anything is kept.
+const TicketScreen::CellReading& TicketScreen::ReadCell(int cell) const {
+  const Control& control = LineA(cell);
+  if (static_cast<std::size_t>(cell) >= readings_.size())
+    readings_.resize(static_cast<std::size_t>(cell) + 1);
+  CellReading& reading = readings_[static_cast<std::size_t>(cell)];
+  const std::string& text = control.text();
+  const bool sameText =
+      reading.generation == generation() && reading.control == &control && reading.text == text;
+  reading.revision = control.revision();
+  if (sameText) return reading;
+  reading.control = &control;
+  reading.generation = generation();
+  reading.text = text;
+  reading.length = Len(text);
+  reading.empty = text == kEmptyCell;
+  reading.stepBack = text == kStepBackCell;
+  reading.value = Val(text);
+  reading.outOfRange = IsOutOfRange(text, reading.value);
+  return reading;
+}
+
 double TicketScreen::CellValue(int cell) const {
-  return Val(LineA(cell).text());
+  return Reading(cell).value;
 }
 
 Integer TicketScreen::CellInteger(int cell) const {
@@ -62,6 +90,35 @@ Control& TicketScreen::PrizeLabel(int row) {
   return control(game_.prizeLabel + CStr(row));
 }
 
+void TicketScreen::ShowMessage(const std::string& caption, int height, Bold bold) {
+  if (bold != Bold::Keep) LblSpaceBar->setFontBold(bold == Bold::On);
+  LblSpaceBar->setCaption(caption);
+  if (height != kKeepHeight) LblSpaceBar->setHeight(height);
+  LblSpaceBar->setVisible(true);
+}
+
+void TicketScreen::ShowDrawOnLoad(int firstDraw, const char* beforeFirstDraw,
+                                  const std::string& numbersText,
+                                  const std::function<void()>& takeNumbers) {
+  LblSpaceBar->setVisible(false);
+  if (StrictNumber(CurrentDrawText) < firstDraw)
+    ShowMessage(beforeFirstDraw, kKeepHeight, Bold::On);
+  else if (numbersText == "")
+    ShowMessage(kNoNumbersMessage, kKeepHeight);
+  else
+    takeNumbers();
+}
+
+void TicketScreen::ShowDrawPairs(const ControlArray& boxes, const std::string& numbersText,
+                                 int pairs, CheckedArray<Integer>& numbers,
+                                 Integer (*convert)(std::string_view)) {
+  TxtDrawBox->setText(CurrentDrawText);
+  for (int pair = 1; pair <= pairs; ++pair) {
+    boxes(pair).setText(Mid(numbersText, 2 * pair, 2));
+    numbers(pair) = convert(boxes(pair).text());
+  }
+}
+
 void TicketScreen::ShowLetters(int first, int last, bool visible) {
   for (int line = first; line <= last; ++line) {
     TextATxt(line).setVisible(visible);
@@ -72,6 +129,13 @@ void TicketScreen::ShowLetters(int first, int last, bool visible) {
 void TicketScreen::ShowLineButtons(bool visible) {
   for (const LineButton& button : game_.lineButtons)
     control(button.name).setVisible(visible);
+}
+
+void TicketScreen::LockGrids() {
+  for (int cell = 1; cell <= game_.gridCells(); ++cell) {
+    LineA(cell).setLocked(true);
+    IntResult(cell).setLocked(true);
+  }
 }
 
 // The end of every Form_Load: the two roads, the lists, and no ticket yet.
@@ -106,10 +170,7 @@ void TicketScreen::BtnCheckNewTicket_Click() {
   BtnCancel->setVisible(true);
   TxtNoofLines->setVisible(true);
   ShowLineButtons(true);
-  LblSpaceBar->setHeight(kOneMessageHeight);
-  LblSpaceBar->setFontBold(false);
-  LblSpaceBar->setCaption(kSpaceBarHint);
-  LblSpaceBar->setVisible(true);
+  ShowMessage(kSpaceBarHint, kOneMessageHeight, Bold::Off);
 }
 
 void TicketScreen::BtnCheckSavedTickets_Click() {
@@ -131,17 +192,13 @@ void TicketScreen::BtnCheckSavedTickets_Click() {
   BtnDeleteTicket->setVisible(true);
   BtnCancel->setVisible(true);
   if (SavedTicketsExist != 0) {
-    LblSpaceBar->setHeight(kTwoMessagesHeight);
-    if (game_.savedHintClearsBold) LblSpaceBar->setFontBold(false);
-    LblSpaceBar->setCaption(kSavedTicketsHint);
+    ShowMessage(kSavedTicketsHint, kTwoMessagesHeight,
+                game_.savedHintClearsBold ? Bold::Off : Bold::Keep);
   } else {
-    LblSpaceBar->setHeight(kOneMessageHeight);
     LblSpaceBar->setFontSize(kNoTicketsFontSize);
-    LblSpaceBar->setFontBold(true);
-    LblSpaceBar->setCaption(kNoSavedTickets);
+    ShowMessage(kNoSavedTickets, kOneMessageHeight, Bold::On);
   }
   SavedMode = 1;
-  LblSpaceBar->setVisible(true);
   List1->setTopIndex(0);
   LstLottoTicket->setTopIndex(0);
 }
@@ -199,11 +256,7 @@ void TicketScreen::ClearResults() {
 // The ticket stands again on the left in pale yellow without borders, with
 // its letters, and the pictures of a win go.
 void TicketScreen::ShowTicketWithoutPrizes(int cells) {
-  for (int cell = 1; cell <= cells; ++cell) {
-    LineA(cell).setBackColor(colors::kPaleYellow);
-    LineA(cell).setBorderStyle(0);
-    LineA(cell).setVisible(true);
-  }
+  PaintTicketAsDisplay(cells, true);
   for (int line = 1; line <= LineCount; ++line)
     TextATxt(line).setVisible(true);
   LblYouveWon->setCaption("There are no Prizes on this Ticket");
@@ -215,14 +268,31 @@ void TicketScreen::ShowTicketWithoutPrizes(int cells) {
 // do its cells with the three after them, the cover box and the letters.
 void TicketScreen::HideTicketForResults() {
   const int cells = LineCount * game_.cellsPerLine;
-  for (const ControlRef* hidden :
-       {&LblSaved, &BtnCheckNewTicket, &BtnCancel, &BtnSaveTicket, &CmdShowResults})
-    (*hidden)->setVisible(false);
+  HideTicketButtons();
   LineA(game_.coverCell()).setVisible(false);
   for (int cell = 1; cell <= cells + 3; ++cell)
     LineA(cell).setVisible(false);
   for (int line = 1; line <= game_.mostLines; ++line)
     TextATxt(line).setVisible(false);
+}
+
+// In this order: hiding CmdShowResults, which has the focus, moves it on.
+void TicketScreen::HideTicketButtons() {
+  for (const ControlRef* hidden :
+       {&LblSaved, &BtnCheckNewTicket, &BtnCancel, &BtnSaveTicket, &CmdShowResults})
+    (*hidden)->setVisible(false);
+}
+
+void TicketScreen::ShowPicturesOfAWin(bool lowerPictures) {
+  ImgCoins->setVisible(true);
+  ImgMoney->setVisible(true);
+  Image1->setVisible(false);
+  Image2->setVisible(false);
+  if (lowerPictures) {
+    Image3->setVisible(true);
+    Image4->setVisible(true);
+  }
+  LblYouveWon->setCaption("CONGRATULATIONS You've WON !!!");
 }
 
 void TicketScreen::BtnRestart_Click() {

@@ -7,8 +7,12 @@
 // of a draw and the summary of prizes belong to each screen.
 #pragma once
 
+#include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include "screen/application.h"
 #include "screen/checked_array.h"
@@ -38,40 +42,99 @@ inline constexpr int kDivisions = 5;
 inline constexpr int kFirstRowTop = 1800;
 inline constexpr int kRowStep = 300;
 
+// A pair of a draw line as a number by the Val rule, as a click in the list of
+// draws takes it: an empty or odd pair gives 0 rather than an error.
+Integer LenientInteger(std::string_view pair);
+
 class TicketScreen : public Form, public store::DrawFields, public store::TicketFields {
  public:
-  TicketScreen(Application& application, FormDesign design, TicketGame game);
+  TicketScreen(Application& application, std::string name, DesignSource design, TicketGame game);
 
  protected:
   // The flow of the states.
+  // Every cell of the ticket's grid and of the prize grid locked, in pairs.
+  void LockGrids();
   void ShowHomeChoices();
+  // Puts the list of draws, List1, and its label in their low place and shows
+  // them.
   void ListVisible();
   virtual void BtnCheckNewTicket_Click();
   virtual void BtnCheckSavedTickets_Click();
   virtual void BtnCancel_Click();
   void BtnRestart_Click();
   void CmdEnd_Click();
+  // Blanks the outcome of a check: the prize grid, the letters, the pictures
+  // of a win and the prize rows.
   virtual void ClearResults();
   // The outcome of a ticket that won nothing: cells 1 to `cells` come back.
   void ShowTicketWithoutPrizes(int cells);
   void HideTicketForResults();
+  // The buttons of an entered ticket go before its results are shown.
+  void HideTicketButtons();
+  // The pictures of a win replace those of the draw, Image3 and Image4 with
+  // them when `lowerPictures`, and LblYouveWon takes its caption of a win.
+  void ShowPicturesOfAWin(bool lowerPictures);
+
+  // LblSpaceBar is the label of the screen's messages. ShowMessage sets its
+  // bold as asked, then its caption, then its height (unless kKeepHeight),
+  // and shows it. These are label properties, so no order among them can be
+  // seen; the callers keep the order of everything else.
+  enum class Bold { Keep, Off, On };
+  static constexpr int kKeepHeight = 0;
+  void ShowMessage(const std::string& caption, int height, Bold bold = Bold::Keep);
+  // The message that the draw read at Form_Load calls for, or its numbers:
+  // before the game's first draw `beforeFirstDraw` in bold, for a draw without
+  // the game's numbers (`numbersText` empty) the message that it has none,
+  // and otherwise `takeNumbers` takes them. CurrentDrawText is converted
+  // strictly, so a draw number that isn't one ends the program here.
+  void ShowDrawOnLoad(int firstDraw, const char* beforeFirstDraw, const std::string& numbersText,
+                      const std::function<void()>& takeNumbers);
+  // The draw number into TxtDrawBox, then `pairs` pairs of `numbersText` from
+  // its second character into `boxes`, each box's text read back and
+  // converted into `numbers` before the next box is written.
+  void ShowDrawPairs(const ControlArray& boxes, const std::string& numbersText, int pairs,
+                     CheckedArray<Integer>& numbers, Integer (*convert)(std::string_view));
 
   // The entry of a ticket.
   void LineButton_Click(const LineButton& button);
+  // Prepares the grid for a ticket of LineCount lines: empty white cells, the
+  // letters of its lines, the prompt and the hint, the focus in cell 1.
   virtual void OwnNumRoutine();
   void LineA_Change();
+  // At the last cell of a line, moves the prompt to the next line and starts
+  // the order test there.
   void EntBox();
   virtual void EndOfEntry();
   void TakeTicketCells();
+  // Cells 1 to `cells` in pale yellow without borders, as a display; shown as
+  // well, cell by cell, when `show`.
+  void PaintTicketAsDisplay(int cells, bool show);
+  // The check of a ticket just entered: the comparison, then cells 1 to
+  // `cells` of the prize grid locked.
+  void CheckEnteredTicket(int cells);
+  // A checked ticket may be saved: the button of a new ticket goes, the hint
+  // of saved tickets stands, the save button comes.
+  void OfferTicketSave();
+  // CmdShowResults shows and takes the focus.
+  void FocusShowResults();
 
   // Saved tickets.
+  // Asks for the number of the ticket to save, into TicketNumberText.
   void TicketNumber();
+  // Empties the list of tickets to click, LstLottoTicket.
   void ListClear();
+  // Empties the list of saved tickets beside a new ticket, List2.
   void ListClear1();
-  void ListClear2();
+  // Fills List1 with the game's draws on disk.
   void FileExists();
+  // Fills List2 with the game's saved tickets.
   void FileExists1();
+  // Fills LstLottoTicket with the game's saved tickets; finding one sets
+  // SavedTicketsExist.
   void FileExists2();
+  // Probes the game's saved tickets for TicketFileName: SavedTicketsExist
+  // ends at 0 when it is found, otherwise at 1 when any number on the way was
+  // free.
   void FileExists3();
   virtual void BtnSaveTicket_Click();
   virtual void LstLottoTicket_Click();
@@ -82,6 +145,8 @@ class TicketScreen : public Form, public store::DrawFields, public store::Ticket
   virtual void CmdShowResults_Click() = 0;
   // Takes the numbers of the draw on display for the check that follows.
   virtual void FreezeDraw() = 0;
+  // Compares the ticket with the frozen draw and paints the prize grid and
+  // counts, whatever its name says: nothing is sorted.
   virtual void NumberSortRoutine() = 0;
   // The PowerBall screen's fourth record of a ticket file; none elsewhere.
   virtual store::PowerBallColumn* PowerBallRecord() { return nullptr; }
@@ -92,8 +157,9 @@ class TicketScreen : public Form, public store::DrawFields, public store::Ticket
   virtual void PaintColumn() {}
   virtual void CheckLoadedTicket() { NumberSortRoutine(); }
   // Whether the complete cell CurrentCell breaks the rule of its line against
-  // the cells OrderFirst and OrderSecond: on the Lotto screen a line ascends.
-  virtual bool OutOfOrder();
+  // the cells OrderFirst and OrderSecond, given the values of the three: on
+  // the Lotto screen a line ascends.
+  virtual bool OutOfOrder(double first, double second, double current) const;
 
   // The complete cell CurrentCell of `cells` is locked and the cursor moves on
   // to the next one, which is opened and shown; `prompt` moves the prompt
@@ -111,6 +177,35 @@ class TicketScreen : public Form, public store::DrawFields, public store::Ticket
   void MatchLottoLine(Integer& cell, const CheckedArray<Integer>& CheckNumbers, Integer bonus,
                       Integer& MatchCount, Integer& BonusMatched);
 
+  // What the walk reads of a cell's text: its length, whether it is empty or
+  // the space bar's step back, whether its number is out of range, and its
+  // value by the Val rule. Each is a function of the text alone.
+  struct CellReading {
+    const Control* control = nullptr;
+    std::string text;  // the text that was read
+    std::uint64_t revision = 0;
+    int generation = 0;  // no Load has generation 0, so a new reading is stale
+    int length = 0;
+    bool empty = false;
+    bool stepBack = false;
+    bool outOfRange = false;
+    double value = 0;
+  };
+  // The reading of cell `cell` of LineA, taken from its text when the cell's
+  // revision or the form's generation has moved since it was last taken, and
+  // kept otherwise. Every change of a text moves its control's revision, so a
+  // reading always answers for the text as it stands.
+  const CellReading& Reading(int cell) const {
+    if (cell >= 0 && static_cast<std::size_t>(cell) < readings_.size()) {
+      const CellReading& reading = readings_[static_cast<std::size_t>(cell)];
+      // The control of a reading of this generation is the cell's control of
+      // this Load, so it is safe to ask for its revision.
+      if (reading.generation == generation() && loaded() &&
+          reading.control->revision() == reading.revision)
+        return reading;
+    }
+    return ReadCell(cell);
+  }
   // The value of a cell's text by the Val rule.
   double CellValue(int cell) const;
   Integer CellInteger(int cell) const;
@@ -173,6 +268,13 @@ class TicketScreen : public Form, public store::DrawFields, public store::Ticket
   // white, with the focus, and empty; the prompt of the line is shown again
   // after the message if asked.
   void Refuse(const std::string& message, bool showPrompt = false);
+
+  // Takes the reading of a cell from its text and keeps it, unless the text
+  // is still the one read, when only the revision is taken anew: a revision
+  // moves with the cell's other properties too.
+  const CellReading& ReadCell(int cell) const;
+
+  mutable std::vector<CellReading> readings_;
 };
 
 }  // namespace veridraw::tickets

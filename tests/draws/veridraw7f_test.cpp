@@ -3,8 +3,10 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <vector>
 
 #include "program/program.h"
+#include "store/number_cell.h"
 #include "support/test_support.h"
 
 namespace veridraw {
@@ -108,6 +110,35 @@ TEST_F(DrawScreen, YesPacksTheSortedRowBonusAndPowerBall) {
   EXPECT_EQ(inHand().DrawFileName, "1200");
   EXPECT_EQ(dir.read("1200"), "1200\r\nX0205061139400817\r\n\r\n");
   EXPECT_EQ(dialogs.shown.size(), 1u);
+}
+
+// The outer counter of the sort and the second counter of the test for
+// repeats are one variable. A repeat typed into the spare cell 9 after a
+// complete entry is refused; the run nested in that refusal completes the
+// entry again and sorts, and the test that was interrupted goes on from the
+// counter as the sort left it.
+TEST_F(DrawScreen, TheSortCounterIsTheRepeatTestCounter) {
+  dialogs.textAnswers = {"1200"};
+  click("BtnEnterLottoDrawNumbers");
+  type("0102030405060708");
+  ASSERT_EQ(dialogs.shown.size(), 1u);  // the draw number
+  Control& spare = form().control("TxtDrawnNumbers", 9);
+  program.click(spare);
+  type("0");
+  program.click(spare);
+  spare.setCaret(1);
+  dialogs.buttonAnswers = {msgbox::kOk, msgbox::kOk, msgbox::kOk, msgbox::kOk};
+  type("1");
+  ASSERT_TRUE(program.running());
+  std::vector<std::string> prompts;
+  for (std::size_t i = 1; i < dialogs.shown.size(); ++i)
+    prompts.push_back(dialogs.shown[i].prompt);
+  EXPECT_EQ(prompts, (std::vector<std::string>{kIncorrectNumberMessage, kIncorrectNumberMessage}));
+  std::vector<std::string> cells;
+  for (int cell = 1; cell <= 9; ++cell)
+    cells.push_back(form().control("TxtDrawnNumbers", cell).text());
+  EXPECT_EQ(cells, (std::vector<std::string>{"01 ", "02 ", "03 ", "04 ", "05 ", "06 ", "07 ", "08 ",
+                                             " "}));
 }
 
 }  // namespace

@@ -8,9 +8,9 @@
 #include <string>
 #include <vector>
 
+#include "powerball/powerball_screen_support.h"
 #include "screen/strings.h"
 #include "support/lotto_lines.h"
-#include "powerball/powerball_screen_support.h"
 
 namespace veridraw::testing {
 namespace {
@@ -401,6 +401,27 @@ TEST_F(PowerBallCheck, TheCoverOfThePowerBallColumnByTheLengthOfTheTicket) {
     EXPECT_TRUE(c("TxtPowerBall", lines + 1).visible());
     EXPECT_TRUE(c("LineA", lines * 6 + 1).visible());
   }
+}
+
+// The answer to the question and the bonus of the line under check are one
+// variable. After a ticket typed line by line whose last line holds the bonus,
+// a key in the spare box of the column checks the ticket again, and that check
+// takes the bonus of the last line for a Yes: every line's box takes the text
+// of the one box of Yes.
+TEST_F(PowerBallCheck, TheAnswerIsTheBonusOfTheLastLineChecked) {
+  open();
+  typeLines({"010204050607", "010204050607", "010204050607", "011213141516"});
+  typeLineByLine({"01", "01", "01", "01"});
+  ASSERT_TRUE(app->running());
+  ASSERT_EQ(c("TxtPowerBall", 1).text(), "01 ");
+  app->click(c("TxtPowerBall", 5));
+  type("0");
+  ASSERT_TRUE(app->running());
+  std::vector<std::string> column;
+  for (int line = 1; line <= 5; ++line)
+    column.push_back(c("TxtPowerBall", line).text());
+  EXPECT_EQ(c("TxtPwrBallNumber", 1).text(), " ");
+  EXPECT_EQ(column, (std::vector<std::string>{" ", " ", " ", " ", "0 "}));
 }
 
 }  // namespace

@@ -1,10 +1,12 @@
 #include <gtest/gtest.h>
 
+#include <stdexcept>
 #include <string>
 #include <vector>
 
 #include "support/expect_fatal.h"
 #include "support/probe_form.h"
+#include "support/test_support.h"
 
 namespace veridraw {
 namespace {
@@ -178,6 +180,28 @@ TEST_F(ScreenTest, DialogsAnswerTheCallingCode) {
   EXPECT_EQ(dialogs.shown[0].prompt, "Are these numbers correct?");
   EXPECT_EQ(dialogs.shown[0].buttons, msgbox::kYesNo);
   EXPECT_EQ(dialogs.shown[1].title, "Draw Number");
+}
+
+FormDesign tableNamedOther() {
+  return FormDesign{"Other", 100, 100, colors::kButtonFace, {}};
+}
+
+// A form named for one table and given another is a mistake of the program,
+// found when the table is first needed.
+TEST(SharedDesignTable, MustBearTheNameOfItsForm) {
+  testing::TemporaryDirectory dir;
+  testing::QueuedDialogs dialogs;
+  Application application{dialogs, dir.path()};
+  class Named : public Form {
+   public:
+    Named(Application& application, std::string name)
+        : Form(application, std::move(name), designOnce<tableNamedOther>) {}
+  };
+  const Named right(application, "Other");
+  EXPECT_EQ(right.design().name, "Other");
+  const Named wrong(application, "Mine");
+  EXPECT_EQ(wrong.name(), "Mine");
+  EXPECT_THROW(wrong.design(), std::logic_error);
 }
 
 }  // namespace

@@ -34,6 +34,17 @@ TEST_P(ProgramForms, HaveTheirClientSize) {
   EXPECT_EQ(form.design().clientHeight, GetParam().height);
 }
 
+// The design tables are made once for the run: every start of the program
+// makes its forms anew, and they all stand on the same tables.
+TEST_P(ProgramForms, ShareTheirDesignTableWithEveryLaterStart) {
+  addVeridrawForms(program);
+  Application later{dialogs, dir.path()};
+  addVeridrawForms(later);
+  const FormDesign& table = program.form(GetParam().name).design();
+  EXPECT_EQ(&later.form(GetParam().name).design(), &table);
+  EXPECT_EQ(table.name, GetParam().name);
+}
+
 INSTANTIATE_TEST_SUITE_P(Shell, ProgramForms,
                          ::testing::Values(FormSize{"Veridraw7a", 11910, 8625},
                                            FormSize{"Veridraw7d", 11910, 8625},

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "screen/strings.h"
+
 namespace veridraw {
 namespace {
 
@@ -41,4 +43,11 @@ TEST(NumberCell, ADigitFollowedByAnythingCountsAsTheDigit) {
 }
 
 }  // namespace
+// The test given a value already read by Val answers as the test that reads it.
+TEST(NumberCell, TheRangeOfAKnownValueIsTheRangeOfItsText) {
+  for (const char* text : {" ", "  ", "   ", "0 ", "00 ", "01 ", "1 ", "40 ", "41 ", "41", "99 ",
+                           "5x ", "ab ", "a ", " 1 ", "-1 ", "4e1", "&H29"})
+    EXPECT_EQ(IsOutOfRange(text, Val(text)), IsOutOfRange(text)) << text;
+}
+
 }  // namespace veridraw
