@@ -4,7 +4,7 @@
 # the test ends, with every program that the test started.
 source "$(dirname "${BASH_SOURCE[0]}")/../package/checks.sh"
 
-for tool in Xvfb openbox xdotool xprop xmessage; do
+for tool in Xvfb openbox xdotool xprop xwininfo xmessage; do
   command -v $tool >/dev/null || {
     echo "SKIP: $tool is not installed (scripts/install-dependencies installs it)"
     exit 77
@@ -35,8 +35,9 @@ wait_for() {
 
 # Xvfb picks a free display and writes its number when it is ready; openbox
 # then manages the screen, as a desktop's window manager does.
+# start_session [WIDTHxHEIGHT]: a screen of 1024x768 unless told.
 start_session() {
-  Xvfb -displayfd 3 -nolisten tcp -screen 0 1024x768x24 3>"$work/display" >"$work/xvfb.log" 2>&1 &
+  Xvfb -displayfd 3 -nolisten tcp -screen 0 "${1:-1024x768}x24" 3>"$work/display" >"$work/xvfb.log" 2>&1 &
   started+=($!)
   wait_for 10 test -s "$work/display" || {
     cat "$work/xvfb.log"
