@@ -19,6 +19,19 @@ frame() {
   xwininfo -id "$parent" | awk '/Absolute upper-left X/ {x=$4} /Absolute upper-left Y/ {y=$4}
     /Width:/ {w=$2} /Height:/ {h=$2} END {print x, y, w, h}'
 }
+# settled_frame WINDOW: the frame once it has stood still for a second (the
+# window manager and the program may still move a window that just came).
+settled_frame() {
+  local now last="" still=0 tries
+  for tries in $(seq 50); do
+    now=$(frame "$1")
+    if [ "$now" = "$last" ]; then still=$((still + 1)); else still=0; fi
+    [ $still -ge 5 ] && break
+    last=$now
+    sleep 0.2
+  done
+  echo "$now"
+}
 # client WINDOW: "left top" of a client area on the screen.
 client() {
   xwininfo -id "$1" | awk '/Absolute upper-left X/ {x=$4} /Absolute upper-left Y/ {y=$4}
@@ -51,20 +64,26 @@ SCENARIO
 
 mkdir -p "$work/folder"
 cp "$data"/* "$work/folder"/
-(cd "$work/folder" && QT_SCALE_FACTOR=$scale exec "$veridraw" >"$work/out" 2>"$work/err") &
+(cd "$work/folder" && QT_SCALE_FACTOR=$scale exec "$veridraw" >"$work/out" 2>"/tmp/dbg_err_$$") &
 started+=($!)
 program=$!
 wait_for 15 sh -c "xdotool search --all --onlyvisible --pid $program --name '^Veridraw\$'" ||
   fail "no window"
-window=$(xdotool search --all --onlyvisible --pid "$program" --name '^Veridraw$' | head -n1)
-xdotool windowactivate --sync "$window"
+start_window=$(xdotool search --all --onlyvisible --pid "$program" --name '^Veridraw$' | head -n1)
+activate "$start_window" || fail "the window is not active"
 xdotool key --clearmodifiers Return
-sleep 0.5
-window=$(xdotool search --all --onlyvisible --pid "$program" --name '^Veridraw$' | head -n1)
+# The draw screen comes in a window of its own.
+draw_window() {
+  xdotool search --all --onlyvisible --pid "$program" --name '^Veridraw$' | grep -vx "$start_window" |
+    head -n1
+}
+wait_for 10 sh -c "[ -n \"\$(xdotool search --all --onlyvisible --pid $program --name '^Veridraw\$' | grep -vx $start_window)\" ]" ||
+  fail "no draw screen"
+window=$(draw_window)
 read -r screen_width screen_height < <(xwininfo -root | awk '/Width:/ {w=$2} /Height:/ {h=$2} END {print w, h}')
 
 # The window's frame, title bar included, centred on the screen.
-read -r left top width height < <(frame "$window")
+read -r left top width height < <(settled_frame "$window")
 near $((left + width / 2)) $((screen_width / 2)) && near $((top + height / 2)) $((screen_height / 2)) ||
   fail "the window's frame $left,$top ${width}x$height is not centred on ${screen_width}x$screen_height"
 
@@ -72,8 +91,7 @@ near $((left + width / 2)) $((screen_width / 2)) && near $((top + height / 2)) $
 xdotool key --clearmodifiers alt+l
 wait_for 10 xdotool search --all --onlyvisible --pid "$program" --name '^Draw Number$' || fail "no input box"
 box=$(xdotool search --all --onlyvisible --pid "$program" --name '^Draw Number$' | head -n1)
-sleep 0.5
-read -r box_left box_top box_width box_height < <(frame "$box")
+read -r box_left box_top box_width box_height < <(settled_frame "$box")
 desktop_left=$(((screen_width - 800 * scale) / 2)) desktop_top=$(((screen_height - 600 * scale) / 2))
 near "$box_left" $((desktop_left + $(twips 3280))) && near "$box_top" $((desktop_top + $(twips 2750))) ||
   fail "the input box's frame stands at $box_left,$box_top, not at $((desktop_left + $(twips 3280))),$((desktop_top + $(twips 2750)))"
@@ -86,8 +104,7 @@ sleep 0.5
 xdotool type --delay 120 "010299"
 wait_for 10 xdotool search --all --onlyvisible --pid "$program" --name '^WARNING$' || fail "no warning"
 warning=$(xdotool search --all --onlyvisible --pid "$program" --name '^WARNING$' | head -n1)
-sleep 0.5
-read -r warn_left warn_top warn_width warn_height < <(frame "$warning")
+read -r warn_left warn_top warn_width warn_height < <(settled_frame "$warning")
 read -r form_left form_top < <(client "$window")
 x=$((form_left + $(twips "$cell_left"))) y=$((form_top + $(twips "$cell_top")))
 w=$(twips "$cell_width") h=$(twips "$cell_height")

@@ -20,7 +20,7 @@ program=$!
 wait_for 15 sh -c "xdotool search --all --onlyvisible --pid $program --name '^Veridraw\$'" ||
   fail "no window"
 window=$(windows_of "$program" | head -n1)
-xdotool windowactivate --sync "$window"
+activate "$window" || fail "the window didn't come to the front"
 xdotool key --clearmodifiers Return
 
 # The line comes while the box stands.

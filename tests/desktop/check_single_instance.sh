@@ -33,7 +33,7 @@ started+=($!)
 cover=$!
 # xmessage doesn't tell its pid; it is known by its class.
 wait_for 10 xdotool search --onlyvisible --class '^Xmessage$' || fail "the covering window didn't come"
-xdotool windowactivate --sync "$(xdotool search --onlyvisible --class '^Xmessage$' | head -n1)"
+activate "$(xdotool search --onlyvisible --class '^Xmessage$' | head -n1)" || fail "the window didn't come to the front"
 [ "$(xdotool getactivewindow)" != "$window" ] || fail "the covering window is not in front"
 
 # The second start in the same folder ends at once with 0...

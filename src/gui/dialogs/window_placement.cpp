@@ -2,6 +2,7 @@
 
 #include <QEvent>
 #include <QMargins>
+#include <QTimer>
 #include <QWidget>
 #include <algorithm>
 #include <array>
@@ -105,41 +106,54 @@ FramePlacer::FramePlacer(QWidget& window, Place place)
 }
 
 bool FramePlacer::eventFilter(QObject* watched, QEvent* event) {
-  if (watched == &window_ && window_.isVisible()) {
-    switch (event->type()) {
-      case QEvent::Show:
-      case QEvent::Move:
-      case QEvent::Resize:
-      // The window manager's frame may come to be known only when the window
-      // is mapped, activated or first painted, without a move or a resize.
-      case QEvent::WindowActivate:
-      case QEvent::Paint:
-        if (window_.size().grownBy(frameMargins()) != placedFrame_) {
-          place();
-        } else if (!knownFrame(window_).isNull() && window_.frameGeometry().topLeft() != corner_ &&
-                   correctionsLeft_ > 0) {
-          // Platforms differ in whether a window not shown yet is placed by
-          // its frame or by its client area: once the frame is known, the
-          // first places after the show are put right; later moves are the
-          // user's.
-          --correctionsLeft_;
-          window_.move(corner_);
-        } else {
-          correctionsLeft_ = 0;
-        }
-        break;
-      default:
-        break;
-    }
+  // A window of no size yet, as some platforms report for a moment while
+  // mapping it, says nothing of where it will stand.
+  if (watched != &window_ || !window_.isVisible() || window_.width() <= 1 || window_.height() <= 1)
+    return QObject::eventFilter(watched, event);
+  switch (event->type()) {
+    case QEvent::Show:
+    case QEvent::Move:
+    case QEvent::Resize:
+    // The window manager's frame may come to be known only when the window is
+    // mapped, activated or first painted, without a move or a resize.
+    case QEvent::WindowActivate:
+    case QEvent::Paint:
+      if (window_.size().grownBy(frameMargins()) != placedFrame_) {
+        place();
+      } else {
+        settle();
+      }
+      break;
+    default:
+      break;
   }
   return QObject::eventFilter(watched, event);
 }
 
+void FramePlacer::settle() {
+  // Platforms differ in whether a window not shown yet is placed by its frame
+  // or by its client area, and a move asked for early may be carried out late:
+  // while the window settles, a frame found elsewhere is put back; later moves
+  // are the user's.
+  if (!window_.isVisible() || knownFrame(window_).isNull() ||
+      window_.frameGeometry().topLeft() == corner_ || correctionsLeft_ <= 0 ||
+      sincePlaced_.elapsed() >= kSettlingMilliseconds)
+    return;
+  --correctionsLeft_;
+  window_.move(corner_);
+}
+
 QMargins FramePlacer::frameMargins() const {
-  const QMargins known = knownFrame(window_);
-  if (!known.isNull()) return known;
-  // Not framed yet: the frame that the window manager gave the window it
-  // belongs to is the best guess.
+  // The frame that the window manager last gave a window of the program: the
+  // best guess for a shown window not framed yet, or whose frame the toolkit
+  // has for a moment forgotten while the window manager redraws it.
+  static QMargins lastKnown;
+  if (const QMargins known = knownFrame(window_); !known.isNull()) {
+    lastKnown = known;
+    return known;
+  }
+  if (window_.isVisible()) return lastKnown;
+  // Not shown yet: the frame of the window it belongs to.
   const QWidget* owner = window_.parentWidget() ? window_.parentWidget()->window() : nullptr;
   return owner != nullptr && owner->isVisible() ? knownFrame(*owner) : QMargins();
 }
@@ -149,6 +163,10 @@ void FramePlacer::place() {
   placedFrame_ = window_.size().grownBy(margins);
   corner_ = place_(placedFrame_);
   correctionsLeft_ = kCorrections;
+  sincePlaced_.start();
+  // Where no event follows the window manager's last word, look again.
+  for (const int after : {kSettlingMilliseconds / 4, kSettlingMilliseconds / 2})
+    QTimer::singleShot(after, this, [this] { settle(); });
   // move() places the frame's top-left corner by the frame that the toolkit
   // knows; while it knows none, the window system puts the client area at the
   // point given, so the point is where the client area is expected.

@@ -5,6 +5,7 @@
 // the screen, frames included.
 #pragma once
 
+#include <QElapsedTimer>
 #include <QMargins>
 #include <QObject>
 #include <QPoint>
@@ -57,17 +58,22 @@ class FramePlacer : public QObject {
 
  private:
   void place();
+  // Puts a frame that the platform left elsewhere back to its place.
+  void settle();
   // The window's frame around its client area, or the frame it is expected to get.
   QMargins frameMargins() const;
 
-  // How often a frame that the platform put elsewhere is moved to its place.
+  // How often, and for how long after it was placed, a frame that the
+  // platform put elsewhere is moved back to its place.
   static constexpr int kCorrections = 3;
+  static constexpr int kSettlingMilliseconds = 1000;
 
   QWidget& window_;
   Place place_;
   QSize placedFrame_;
   QPoint corner_;
   int correctionsLeft_ = 0;
+  QElapsedTimer sincePlaced_;
 };
 
 }  // namespace veridraw::gui
