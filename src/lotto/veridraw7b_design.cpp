@@ -43,20 +43,8 @@ FormDesign veridraw7bDesign() {
             .hidden());
   }
 
-  const ControlDesign cell =
-      textBox("LineA", {0, 0, 300, 250}).centred().noTabStop().hidden().describedBy("LblEnterLine");
-  tickets::addGrid(
-      controls, cell, game.mostLines, game.cellsPerLine,
-      {885, tickets::kLottoGridTop, tickets::kLottoColumnStep, tickets::kLottoRowStep});
-  // The spare cells after the grid, the box that no code uses, and the cover.
-  const int spareLefts[] = {480, 840, 1200};
-  for (int spare = 1; spare <= 3; ++spare)
-    controls.push_back(textBox("LineA", {spareLefts[spare - 1], 8230, 300, 285})
-                           .at(game.gridCells() + spare)
-                           .centred()
-                           .noTabStop()
-                           .hidden()
-                           .decoration());
+  // The grid and its spare cells, the box that no code uses, and the cover.
+  tickets::addLottoCells(controls, game, 885, {480, 840, 1200}, 8230);
   controls.push_back(
       textBox("LineA", {120, 8230, 300, 285}).at(0).noTabStop().hidden().decoration());
   controls.push_back(tickets::coverBox(game, {840, 7440, 420, 285}));

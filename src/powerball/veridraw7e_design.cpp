@@ -48,19 +48,7 @@ void addPrizeRows(std::vector<ControlDesign>& controls, int rows) {
 
 // The number cells, their spare cells behind the notice and the cover box.
 void addTicketGrid(std::vector<ControlDesign>& controls, const tickets::TicketGame& game) {
-  const ControlDesign cell =
-      textBox("LineA", {0, 0, 300, 250}).centred().noTabStop().hidden().describedBy("LblEnterLine");
-  tickets::addGrid(
-      controls, cell, game.mostLines, game.cellsPerLine,
-      {765, tickets::kLottoGridTop, tickets::kLottoColumnStep, tickets::kLottoRowStep});
-  const int spareLefts[] = {1680, 2040, 2400};
-  for (int spare = 1; spare <= 3; ++spare)
-    controls.push_back(textBox("LineA", {spareLefts[spare - 1], kSpareTop, 300, 285})
-                           .at(game.gridCells() + spare)
-                           .centred()
-                           .noTabStop()
-                           .hidden()
-                           .decoration());
+  tickets::addLottoCells(controls, game, 765, {1680, 2040, 2400}, kSpareTop);
   controls.push_back(tickets::coverBox(game, {720, 7560, 420, 285}));
 }
 

@@ -168,4 +168,19 @@ std::vector<Meaning> matchMeanings(bool bonusInBlue) {
   return meanings;
 }
 
+void addLottoCells(std::vector<ControlDesign>& controls, const TicketGame& game, int gridLeft,
+                   const std::array<int, 3>& spareLefts, int spareTop) {
+  const ControlDesign cell =
+      textBox("LineA", {0, 0, 300, 250}).centred().noTabStop().hidden().describedBy("LblEnterLine");
+  addGrid(controls, cell, game.mostLines, game.cellsPerLine,
+          {gridLeft, kLottoGridTop, kLottoColumnStep, kLottoRowStep});
+  for (int spare = 1; spare <= 3; ++spare)
+    controls.push_back(textBox("LineA", {spareLefts[spare - 1], spareTop, 300, 285})
+                           .at(game.gridCells() + spare)
+                           .centred()
+                           .noTabStop()
+                           .hidden()
+                           .decoration());
+}
+
 }  // namespace veridraw::tickets

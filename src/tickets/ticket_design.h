@@ -3,6 +3,7 @@
 // number cells, the prize grid, the line letters and the line buttons).
 #pragma once
 
+#include <array>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -84,6 +85,12 @@ inline constexpr const char* kPrizeGridName = "Prize grid";
 // `cell` gives the grid, if any.
 void addGrid(std::vector<ControlDesign>& controls, const ControlDesign& cell, int lines,
              int perLine, GridLayout layout);
+
+// The number cells of a Lotto ticket, from `gridLeft` on, read with the prompt
+// of the line; then its three spare cells after the grid, hidden and kept from
+// screen readers, at `spareLefts` on the row `spareTop`.
+void addLottoCells(std::vector<ControlDesign>& controls, const TicketGame& game, int gridLeft,
+                   const std::array<int, 3>& spareLefts, int spareTop);
 
 // The prize grid IntResult of a game: a cell for each cell of the ticket, pale
 // yellow, without a border, filled only by the check; `meanings` tell a screen
