@@ -2,10 +2,13 @@
 
 #include <QFontDatabase>
 #include <QFontInfo>
+#include <QFontMetricsF>
+#include <QGuiApplication>
 #include <algorithm>
 #include <array>
 #include <cmath>
 #include <map>
+#include <tuple>
 #include <utility>
 
 namespace veridraw::gui {
@@ -43,14 +46,79 @@ bool bitmapFaceFor(double points, bool bold) {
   return !bold && points >= kBitmapFromPoints && points <= kBitmapToPoints && haveBitmapFace();
 }
 
+QFont bitmapFace() {
+  QFont font(QString::fromLatin1(kBitmapFamily));
+  font.setStyleHint(QFont::SansSerif);
+  font.setPixelSize(kBitmapPixels);
+  return font;
+}
+
+int designedPixels(double points) {
+  return std::max(1, static_cast<int>(std::lround(points * kPixelsPerPoint)));
+}
+
+// The scale of the screens, device pixels to a pixel of the layout: the
+// desktop's, or QT_SCALE_FACTOR's.
+qreal deviceRatio() {
+  return qGuiApp != nullptr ? qGuiApp->devicePixelRatio() : 1.0;
+}
+
+// Whether text of this size is set in a stand-in for the bitmap face: the
+// bitmap face has its one strike, which a scaled screen would show at its own
+// size with the letters spread out to the scaled widths.
+bool standsInForBitmap(double points, bool bold) {
+  return bitmapFaceFor(points, bold) && deviceRatio() != 1.0;
+}
+
+// How wide the text reaches on its lines: a scalable face's last letter may
+// reach a little past its advance.
+qreal spanOf(const QFont& font, const QString& text) {
+  constexpr qreal kFar = 1e6;
+  return QFontMetricsF(font).boundingRect(QRectF(0, 0, kFar, kFar), 0, text).width();
+}
+
+// The scalable face at the bitmap face's pixel size, narrowed so that `text`
+// spans the width that the bitmap face gives it: whole percents of stretch,
+// then a fraction of a pixel between the letters for the rest. The height is
+// the bitmap face's, so lines and rows stand where they stood.
+QFont narrowedToBitmap(const QString& text) {
+  QFont font = scalableFont(kBitmapPixels, false);
+  const qreal designed = spanOf(bitmapFace(), text);
+  const qreal natural = spanOf(font, text);
+  if (designed <= 0 || natural <= 0) return font;
+  constexpr int kNarrowest = 50;
+  constexpr int kWidest = 150;
+  int stretch =
+      std::clamp(static_cast<int>(std::floor(100 * designed / natural)), kNarrowest, kWidest);
+  font.setStretch(stretch);
+  while (stretch > kNarrowest && spanOf(font, text) > designed)
+    font.setStretch(--stretch);
+  const qreal stretched = spanOf(font, text);
+  if (stretched >= designed) return font;
+  // A percent of stretch is a pixel or more on a long text: a little room
+  // between the letters makes up the rest. Not every letter takes it (a blank
+  // between words may not), so a trial pixel finds what it adds to the whole.
+  QFont spaced = font;
+  spaced.setLetterSpacing(QFont::AbsoluteSpacing, 1);
+  const qreal added = spanOf(spaced, text) - stretched;
+  if (added <= 0) return font;
+  spaced.setLetterSpacing(QFont::AbsoluteSpacing, (designed - stretched) / added);
+  const qreal span = spanOf(spaced, text);
+  return span <= designed && span > stretched ? spaced : font;
+}
+
+// All the printable ASCII letters, for a stretch of the stand-in that suits
+// text in general, such as the rows of a list.
+QString everyLetter() {
+  QString letters;
+  for (char16_t code = u' '; code <= u'~'; ++code)
+    letters += QChar(code);
+  return letters;
+}
+
 QFont matchedFont(double points, bool bold) {
-  if (bitmapFaceFor(points, bold)) {
-    QFont font(QString::fromLatin1(kBitmapFamily));
-    font.setStyleHint(QFont::SansSerif);
-    font.setPixelSize(kBitmapPixels);
-    return font;
-  }
-  return scalableFont(std::max(1, static_cast<int>(std::lround(points * kPixelsPerPoint))), bold);
+  if (standsInForBitmap(points, bold)) return narrowedToBitmap(everyLetter());
+  return designedFont(points, bold);
 }
 
 }  // namespace
@@ -74,11 +142,28 @@ QColor toQColor(pictures::Colour colour) {
                             colour.wideAlpha());
 }
 
+QFont designedFont(double points, bool bold) {
+  if (bitmapFaceFor(points, bold)) return bitmapFace();
+  return scalableFont(designedPixels(points), bold);
+}
+
 QFont modelFont(double points, bool bold) {
-  // Few sizes are in use, and a font is costly to match: each is made once.
-  static std::map<std::pair<double, bool>, QFont> made;
-  const auto [place, isNew] = made.try_emplace({points, bold});
+  // Few sizes are in use, and a font is costly to match: each is made once
+  // for each scale of the screens.
+  static std::map<std::tuple<double, bool, qreal>, QFont> made;
+  const auto [place, isNew] = made.try_emplace({points, bold, deviceRatio()});
   if (isNew) place->second = matchedFont(points, bold);
+  return place->second;
+}
+
+QFont textFont(double points, bool bold, const QString& shown) {
+  if (shown.isEmpty() || !standsInForBitmap(points, bold)) return modelFont(points, bold);
+  // The texts that the screens show are few, but a text box takes what is typed.
+  constexpr std::size_t kMostKept = 4096;
+  static std::map<std::pair<qreal, QString>, QFont> narrowed;
+  if (narrowed.size() >= kMostKept) narrowed.clear();
+  const auto [place, isNew] = narrowed.try_emplace({deviceRatio(), shown});
+  if (isNew) place->second = narrowedToBitmap(shown);
   return place->second;
 }
 
@@ -92,6 +177,9 @@ QFont scalableFont(int pixels, bool bold) {
   font.setHintingPreference(QFont::PreferVerticalHinting);
   font.setPixelSize(pixels);
   font.setBold(bold);
+  // Said outright: Qt may otherwise lay a font of any width out with a face
+  // narrowed for the stand-in of the bitmap face.
+  font.setStretch(QFont::Unstretched);
   return font;
 }
 

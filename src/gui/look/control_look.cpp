@@ -5,6 +5,16 @@
 
 namespace veridraw::gui {
 
+QString shownText(const ControlLook& look) {
+  if (look.kind == ControlKind::TextBox || !look.text.contains(u'&')) return look.text;
+  QString shown;
+  for (qsizetype at = 0; at < look.text.size(); ++at) {
+    if (look.text[at] == u'&' && ++at == look.text.size()) break;
+    shown += look.text[at];
+  }
+  return shown;
+}
+
 ControlLook lookOf(const Control& control, bool focused) {
   ControlLook look;
   LookSources sources;
@@ -29,7 +39,9 @@ void updateLook(ControlLook& look, LookSources& sources, const Control& control,
   look.kind = control.kind();
   look.background = modelColor(control.backColor());
   look.foreground = modelColor(control.foreColor());
-  look.font = modelFont(control.fontSize(), control.fontBold());
+  look.font = look.kind == ControlKind::ListBox
+                  ? modelFont(control.fontSize(), control.fontBold())
+                  : textFont(control.fontSize(), control.fontBold(), shownText(look));
   look.borderStyle = control.borderStyle();
   look.alignment = control.alignment();
   look.picture = control.picture();

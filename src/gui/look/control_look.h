@@ -42,6 +42,10 @@ struct LookSources {
   bool converted = false;
 };
 
+// The text as the control shows it: a caption without the "&" that marks its
+// access key ("&&" shows one "&").
+QString shownText(const ControlLook& look);
+
 ControlLook lookOf(const Control& control, bool focused);
 
 // Brings `look` up to the control's present state, converting the text and the
