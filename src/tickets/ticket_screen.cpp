@@ -59,13 +59,9 @@ const TicketScreen::CellReading& TicketScreen::ReadCell(int cell) const {
     readings_.resize(static_cast<std::size_t>(cell) + 1);
   CellReading& reading = readings_[static_cast<std::size_t>(cell)];
   const std::string& text = control.text();
-  const bool sameText =
-      reading.generation == generation() && reading.control == &control && reading.text == text;
-  reading.revision = control.revision();
-  if (sameText) return reading;
   reading.control = &control;
   reading.generation = generation();
-  reading.text = text;
+  reading.textRevision = control.textRevision();
   reading.length = Len(text);
   reading.empty = text == kEmptyCell;
   reading.stepBack = text == kStepBackCell;
