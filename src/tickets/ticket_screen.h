@@ -163,8 +163,20 @@ class TicketScreen : public Form, public store::DrawFields, public store::Ticket
 
   // The complete cell CurrentCell of `cells` is locked and the cursor moves on
   // to the next one, which is opened and shown; `prompt` moves the prompt
-  // while it is hidden.
-  void AdvanceCell(const ControlArray& cells, const std::function<void()>& prompt);
+  // while it is hidden. Nothing here raises an event before the prompt, so
+  // CurrentCell names the same two cells throughout, and each is looked up
+  // once.
+  template <class Prompt>
+  void AdvanceCell(const ControlArray& cells, Prompt&& prompt) {
+    Control& next = cells(CurrentCell + 1);
+    next.setLocked(false);
+    next.setVisible(true);
+    next.SetFocus();
+    cells(CurrentCell).setLocked(true);
+    LblEnterLine->setVisible(false);
+    prompt();
+    LblEnterLine->setVisible(true);
+  }
   // A refused number: the cell red while the warning stands, then in the
   // colour `back`, with the focus, and empty, which runs its Change again.
   void RefuseCell(Control& cell, const std::string& message, std::int32_t back,
@@ -273,6 +285,8 @@ class TicketScreen : public Form, public store::DrawFields, public store::Ticket
   const CellReading& ReadCell(int cell) const;
 
   mutable std::vector<CellReading> readings_;
+  // The caption of the prompt of each line, by the line's number, made once.
+  const std::vector<std::string> linePrompts_;
 };
 
 }  // namespace veridraw::tickets
