@@ -22,11 +22,14 @@ struct Setter {
 
 class ControlRevision : public ScreenTest {
  protected:
-  // Whether running `action` on the control moved its count.
-  bool moves(Control& control, const std::function<void(Control&)>& action) {
-    const std::uint64_t before = control.revision();
+  using Count = std::uint64_t (Control::*)() const;
+  // Whether running `action` on the control moved its count, or the count
+  // that `count` reads.
+  bool moves(Control& control, const std::function<void(Control&)>& action,
+             Count count = &Control::revision) {
+    const std::uint64_t before = (control.*count)();
     action(control);
-    return control.revision() != before;
+    return (control.*count)() != before;
   }
 };
 
@@ -101,9 +104,7 @@ TEST_F(ControlRevision, TheItemsSelectionAndScrollingOfAListMoveTheCount) {
 class TextRevision : public ControlRevision {
  protected:
   bool movesText(Control& control, const std::function<void(Control&)>& action) {
-    const std::uint64_t before = control.textRevision();
-    action(control);
-    return control.textRevision() != before;
+    return moves(control, action, &Control::textRevision);
   }
 };
 
