@@ -54,13 +54,11 @@ std::string Control::displayName() const {
   return isArrayElement() ? name_ + "(" + std::to_string(index_) + ")" : name_;
 }
 
-// Read at every step of the walks of number entry: a reference, not a copy.
-const std::string& Control::text() const {
+const std::string& Control::listText() const {
   static const std::string kNone;
   if (kind_ == ControlKind::ListBox)
     return listIndex_ >= 0 ? items_[static_cast<std::size_t>(listIndex_)] : kNone;
-  if (kind_ != ControlKind::TextBox) throw std::logic_error(displayName() + " has no Text");
-  return text_;
+  throw std::logic_error(displayName() + " has no Text");
 }
 
 void Control::setText(const std::string& value) {
@@ -69,24 +67,12 @@ void Control::setText(const std::string& value) {
   assign(selectionLength_, 0);
   if (value == text_) return;
   text_ = value;
-  touch();
+  touchText();
   form_.raise(Event::Change, *this);
 }
 
-void Control::setVisible(bool value) {
-  assign(visible_, value);
-  if (!value) form_.application().focusLeaves(*this);
-}
-
-void Control::setEnabled(bool value) {
-  assign(enabled_, value);
-  if (!value) form_.application().focusLeaves(*this);
-}
-
-bool Control::canTakeFocus() const {
-  const bool focusable = kind_ == ControlKind::TextBox || kind_ == ControlKind::CommandButton ||
-                         kind_ == ControlKind::ListBox;
-  return focusable && visible_ && enabled_;
+void Control::focusLeaves() {
+  form_.application().focusLeaves(*this);
 }
 
 void Control::SetFocus() {
@@ -130,7 +116,7 @@ void Control::replaceByUser(int from, int count, const std::string& insert) {
   text_.replace(static_cast<std::size_t>(from), static_cast<std::size_t>(count), insert);
   caret_ = from + static_cast<int>(insert.size());
   selectionLength_ = 0;
-  touch();
+  touchText();
   form_.raise(Event::Change, *this);
 }
 

@@ -31,15 +31,26 @@ class Control {
 
   // Text of a text box (assigning a different value fires Change at once,
   // nested, and puts the caret at 0), or the selected item of a list box.
-  const std::string& text() const;
+  // Read at every step of the walks of number entry: a reference, not a copy.
+  const std::string& text() const {
+    if (kind_ == ControlKind::TextBox) return text_;
+    return listText();
+  }
   void setText(const std::string& value);
   const std::string& caption() const { return caption_; }
   void setCaption(const std::string& value) { assign(caption_, value); }
 
   bool visible() const { return visible_; }
-  void setVisible(bool value);
+  // Hiding or disabling the control takes the focus away from it.
+  void setVisible(bool value) {
+    assign(visible_, value);
+    if (!value) focusLeaves();
+  }
   bool enabled() const { return enabled_; }
-  void setEnabled(bool value);
+  void setEnabled(bool value) {
+    assign(enabled_, value);
+    if (!value) focusLeaves();
+  }
   bool locked() const { return locked_; }
   void setLocked(bool value) { assign(locked_, value); }
   bool tabStop() const { return tabStop_; }
@@ -74,7 +85,11 @@ class Control {
 
   // SetFocus: the control must be visible and enabled, or fatal error 5.
   void SetFocus();
-  bool canTakeFocus() const;
+  bool canTakeFocus() const {
+    const bool focusable = kind_ == ControlKind::TextBox || kind_ == ControlKind::CommandButton ||
+                           kind_ == ControlKind::ListBox;
+    return focusable && visible_ && enabled_;
+  }
 
   // List box.
   void AddItem(const std::string& item);
@@ -104,10 +119,22 @@ class Control {
   // scrolling. A face that keeps the count it last showed redraws only the
   // controls whose count has moved since.
   std::uint64_t revision() const { return revision_; }
+  // Counts the changes of the text alone, by an assignment or by the user's
+  // editing. It moves with revision() but not with the other properties
+  // (Locked, Visible, the colours, the caret), so that whoever keeps what it
+  // read of a text can tell whether the text may have changed since.
+  std::uint64_t textRevision() const { return textRevision_; }
 
  private:
+  // The text of a control that isn't a text box: a list box's selected item.
+  const std::string& listText() const;
+  void focusLeaves();
   void replaceByUser(int from, int count, const std::string& insert);
   void touch() { ++revision_; }
+  void touchText() {
+    ++revision_;
+    ++textRevision_;
+  }
   template <class T>
   void assign(T& field, const T& value) {
     if (field == value) return;
@@ -143,6 +170,7 @@ class Control {
   int caret_ = 0;
   int selectionLength_ = 0;
   std::uint64_t revision_ = 0;
+  std::uint64_t textRevision_ = 0;
 };
 
 }  // namespace veridraw

@@ -189,19 +189,6 @@ void TicketScreen::Advance() {
   AdvanceCell(LineA, [this] { EntBox(); });
 }
 
-// Nothing here raises an event before the prompt, so CurrentCell names the
-// same two cells throughout, and each is looked up once.
-void TicketScreen::AdvanceCell(const ControlArray& cells, const std::function<void()>& prompt) {
-  Control& next = cells(CurrentCell + 1);
-  next.setLocked(false);
-  next.setVisible(true);
-  next.SetFocus();
-  cells(CurrentCell).setLocked(true);
-  LblEnterLine->setVisible(false);
-  prompt();
-  LblEnterLine->setVisible(true);
-}
-
 // At the last cell of a line, the prompt moves to the next line and the order
 // test starts there. The prompt is never moved back; it also moves one line
 // past the ticket for an instant before the end of entry hides it.
@@ -209,9 +196,7 @@ void TicketScreen::EntBox() {
   const int cell = CurrentCell;
   const int line = cell / game_.cellsPerLine;
   if (cell % game_.cellsPerLine != 0 || line < 1 || line >= game_.mostLines) return;
-  const std::string letter(1, LineLetter(line + 1));
-  LblEnterLine->setCaption("Line " + letter + " -- Enter the " + CStr(game_.cellsPerLine) +
-                           " Two Digit numbers");
+  LblEnterLine->setCaption(linePrompts_[static_cast<std::size_t>(line + 1)]);
   LblEnterLine->setTop(game_.promptTops[static_cast<std::size_t>(line - 1)]);
   LineStartCell = cell + 1;
 }

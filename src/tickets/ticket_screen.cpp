@@ -21,6 +21,17 @@ constexpr int kHighLabelTop = 5850;
 constexpr int kListHeight = 1230;
 constexpr double kNoTicketsFontSize = 10;
 
+// The captions of the prompt of a game's lines, by the line's number; the
+// prompt of line A is the design's and is never made.
+std::vector<std::string> LinePrompts(const TicketGame& game) {
+  std::vector<std::string> prompts(static_cast<std::size_t>(game.mostLines) + 1);
+  for (int line = 2; line <= game.mostLines; ++line)
+    prompts[static_cast<std::size_t>(line)] = "Line " + std::string(1, LineLetter(line)) +
+                                              " -- Enter the " + CStr(game.cellsPerLine) +
+                                              " Two Digit numbers";
+  return prompts;
+}
+
 }  // namespace
 
 Integer LenientInteger(std::string_view pair) {
@@ -35,7 +46,8 @@ TicketScreen::TicketScreen(Application& application, std::string name, DesignSou
                            TicketGame game)
     : Form(application, std::move(name), design),
       game_(std::move(game)),
-      TicketCells(0, game_.lastTicketCell) {
+      TicketCells(0, game_.lastTicketCell),
+      linePrompts_(LinePrompts(game_)) {
   on("BtnCheckNewTicket", Event::Click, [this] { BtnCheckNewTicket_Click(); });
   on("BtnCheckSavedTickets", Event::Click, [this] { BtnCheckSavedTickets_Click(); });
   on("BtnCancel", Event::Click, [this] { BtnCancel_Click(); });
@@ -59,13 +71,9 @@ const TicketScreen::CellReading& TicketScreen::ReadCell(int cell) const {
     readings_.resize(static_cast<std::size_t>(cell) + 1);
   CellReading& reading = readings_[static_cast<std::size_t>(cell)];
   const std::string& text = control.text();
-  const bool sameText =
-      reading.generation == generation() && reading.control == &control && reading.text == text;
-  reading.revision = control.revision();
-  if (sameText) return reading;
   reading.control = &control;
   reading.generation = generation();
-  reading.text = text;
+  reading.textRevision = control.textRevision();
   reading.length = Len(text);
   reading.empty = text == kEmptyCell;
   reading.stepBack = text == kStepBackCell;

@@ -163,8 +163,20 @@ class TicketScreen : public Form, public store::DrawFields, public store::Ticket
 
   // The complete cell CurrentCell of `cells` is locked and the cursor moves on
   // to the next one, which is opened and shown; `prompt` moves the prompt
-  // while it is hidden.
-  void AdvanceCell(const ControlArray& cells, const std::function<void()>& prompt);
+  // while it is hidden. Nothing here raises an event before the prompt, so
+  // CurrentCell names the same two cells throughout, and each is looked up
+  // once.
+  template <class Prompt>
+  void AdvanceCell(const ControlArray& cells, Prompt&& prompt) {
+    Control& next = cells(CurrentCell + 1);
+    next.setLocked(false);
+    next.setVisible(true);
+    next.SetFocus();
+    cells(CurrentCell).setLocked(true);
+    LblEnterLine->setVisible(false);
+    prompt();
+    LblEnterLine->setVisible(true);
+  }
   // A refused number: the cell red while the warning stands, then in the
   // colour `back`, with the focus, and empty, which runs its Change again.
   void RefuseCell(Control& cell, const std::string& message, std::int32_t back,
@@ -182,9 +194,8 @@ class TicketScreen : public Form, public store::DrawFields, public store::Ticket
   // value by the Val rule. Each is a function of the text alone.
   struct CellReading {
     const Control* control = nullptr;
-    std::string text;  // the text that was read
-    std::uint64_t revision = 0;
-    int generation = 0;  // no Load has generation 0, so a new reading is stale
+    std::uint64_t textRevision = 0;  // the text revision of the text that was read
+    int generation = 0;              // no Load has generation 0, so a new reading is stale
     int length = 0;
     bool empty = false;
     bool stepBack = false;
@@ -192,16 +203,17 @@ class TicketScreen : public Form, public store::DrawFields, public store::Ticket
     double value = 0;
   };
   // The reading of cell `cell` of LineA, taken from its text when the cell's
-  // revision or the form's generation has moved since it was last taken, and
-  // kept otherwise. Every change of a text moves its control's revision, so a
-  // reading always answers for the text as it stands.
+  // text revision or the form's generation has moved since it was last taken,
+  // and kept otherwise. Every change of a text moves its control's text
+  // revision, so a reading always answers for the text as it stands; locking,
+  // showing or painting a cell leaves its reading alone.
   const CellReading& Reading(int cell) const {
     if (cell >= 0 && static_cast<std::size_t>(cell) < readings_.size()) {
       const CellReading& reading = readings_[static_cast<std::size_t>(cell)];
       // The control of a reading of this generation is the cell's control of
-      // this Load, so it is safe to ask for its revision.
+      // this Load, so it is safe to ask for its text revision.
       if (reading.generation == generation() && loaded() &&
-          reading.control->revision() == reading.revision)
+          reading.control->textRevision() == reading.textRevision)
         return reading;
     }
     return ReadCell(cell);
@@ -269,12 +281,12 @@ class TicketScreen : public Form, public store::DrawFields, public store::Ticket
   // after the message if asked.
   void Refuse(const std::string& message, bool showPrompt = false);
 
-  // Takes the reading of a cell from its text and keeps it, unless the text
-  // is still the one read, when only the revision is taken anew: a revision
-  // moves with the cell's other properties too.
+  // Takes the reading of a cell from its text and keeps it.
   const CellReading& ReadCell(int cell) const;
 
   mutable std::vector<CellReading> readings_;
+  // The caption of the prompt of each line, by the line's number, made once.
+  const std::vector<std::string> linePrompts_;
 };
 
 }  // namespace veridraw::tickets

@@ -4,6 +4,7 @@
 // after a change of another property, and in the new controls of a new Load.
 #include <gtest/gtest.h>
 
+#include <cstdint>
 #include <string>
 
 #include "lotto/lotto_screen_support.h"
@@ -81,6 +82,40 @@ TEST_F(CellReadings, StayRightWhenAnotherPropertyChanges) {
   c("LineA", 1).setLocked(false);
   expectReadingOf(1, "25 ");
   EXPECT_EQ(lotto().reading(1).value, 25);
+}
+
+// The walk locks every complete cell and opens the next at each key, which
+// moves their revisions but not their texts: what was read of them is kept,
+// and it still follows the next change of their texts.
+TEST_F(CellReadings, AreKeptThroughLockingAndFollowTheNextChangeOfTheText) {
+  openReadable();
+  chooseLines(4);
+  type("2530");
+  expectReadingOf(2, "30 ");
+  const Control& second = c("LineA", 2);
+  ASSERT_TRUE(second.locked());
+  const std::uint64_t revision = second.revision();
+  const std::uint64_t textRevision = second.textRevision();
+  EXPECT_EQ(lotto().reading(2).textRevision, textRevision);
+  // The walk of the next key opens cell 2 as it leaves cell 1 and locks it
+  // again as it leaves it.
+  type("3");
+  ASSERT_TRUE(second.locked());
+  EXPECT_NE(second.revision(), revision);
+  EXPECT_EQ(second.textRevision(), textRevision);
+  EXPECT_EQ(lotto().reading(2).textRevision, textRevision);
+  expectReadingOf(2, "30 ");
+  // The space bar in the empty cell 3 empties cell 2 and cell 3, and cell 1
+  // stays as it was.
+  app->pressKey(Key::Backspace);
+  ASSERT_EQ(c("LineA", 3).text(), " ");
+  type(" ");
+  expectReadingOf(1, "25 ");
+  expectReadingOf(2, " ");
+  expectReadingOf(3, " ");
+  type(" ");
+  expectReadingOf(1, " ");
+  expectReadingOf(2, " ");
 }
 
 // After Main Menu and back, the cells are new controls with the texts of the

@@ -22,11 +22,14 @@ struct Setter {
 
 class ControlRevision : public ScreenTest {
  protected:
-  // Whether running `action` on the control moved its count.
-  bool moves(Control& control, const std::function<void(Control&)>& action) {
-    const std::uint64_t before = control.revision();
+  using Count = std::uint64_t (Control::*)() const;
+  // Whether running `action` on the control moved its count, or the count
+  // that `count` reads.
+  bool moves(Control& control, const std::function<void(Control&)>& action,
+             Count count = &Control::revision) {
+    const std::uint64_t before = (control.*count)();
     action(control);
-    return control.revision() != before;
+    return (control.*count)() != before;
   }
 };
 
@@ -94,6 +97,88 @@ TEST_F(ControlRevision, TheItemsSelectionAndScrollingOfAListMoveTheCount) {
   EXPECT_TRUE(moves(list, [](Control& c) { c.setTopIndex(1); }));
   EXPECT_TRUE(moves(list, [](Control& c) { c.Clear(); }));
   EXPECT_FALSE(moves(list, [](Control& c) { c.Clear(); }));
+}
+
+// The count of changes of the text alone, by which a reader that keeps what it
+// read of a text knows whether to read it again.
+class TextRevision : public ControlRevision {
+ protected:
+  bool movesText(Control& control, const std::function<void(Control&)>& action) {
+    return moves(control, action, &Control::textRevision);
+  }
+};
+
+TEST_F(TextRevision, MovesWithEveryChangeOfTheTextByTheProgram) {
+  start();
+  Control& box = control("Box");
+  for (const char* text : {"1 ", "12 ", "  ", " ", "40 "}) {
+    const std::uint64_t revision = box.revision();
+    EXPECT_TRUE(movesText(box, [text](Control& c) { c.setText(text); })) << text;
+    EXPECT_NE(box.revision(), revision) << text;
+  }
+}
+
+TEST_F(TextRevision, MovesWithEveryEditOfTheUser) {
+  start();
+  Control& box = control("Box");
+  EXPECT_TRUE(movesText(box, [this](Control&) { app.typeCharacter('4'); }));
+  EXPECT_TRUE(movesText(box, [this](Control&) { app.typeCharacter('0'); }));
+  EXPECT_TRUE(movesText(box, [this](Control&) { app.pressKey(Key::Backspace); }));
+  EXPECT_FALSE(movesText(box, [this](Control&) { app.pressKey(Key::Home); }));
+  EXPECT_TRUE(movesText(box, [this](Control&) { app.pressKey(Key::Delete); }));
+  EXPECT_EQ(box.text(), " ");
+}
+
+// Locking, showing, painting or moving a cell, or its caret, moves the count of
+// what a face shows and leaves the text's.
+TEST_F(TextRevision, StaysWhenAnotherPropertyChanges) {
+  start();
+  Control& box = control("Box");
+  box.setText("25 ");
+  const std::vector<Setter> others{
+      {"Locked", [](Control& c) { c.setLocked(!c.locked()); }},
+      {"Visible", [](Control& c) { c.setVisible(!c.visible()); }},
+      {"Visible again", [](Control& c) { c.setVisible(!c.visible()); }},
+      {"Enabled", [](Control& c) { c.setEnabled(!c.enabled()); }},
+      {"TabStop", [](Control& c) { c.setTabStop(!c.tabStop()); }},
+      {"BackColor", [](Control& c) { c.setBackColor(c.backColor() ^ 0xFF); }},
+      {"ForeColor", [](Control& c) { c.setForeColor(c.foreColor() ^ 0xFF); }},
+      {"BorderStyle", [](Control& c) { c.setBorderStyle(1 - c.borderStyle()); }},
+      {"FontSize", [](Control& c) { c.setFontSize(c.fontSize() + 1); }},
+      {"Top", [](Control& c) { c.setTop(c.top() + 15); }},
+      {"Caret", [](Control& c) { c.setCaret(2); }},
+  };
+  for (const Setter& setter : others) {
+    EXPECT_TRUE(moves(box, setter.change)) << setter.property;
+    EXPECT_FALSE(movesText(box, [](Control&) {})) << setter.property;
+  }
+  const std::uint64_t text = box.textRevision();
+  for (const Setter& setter : others)
+    setter.change(box);
+  EXPECT_EQ(box.textRevision(), text);
+  EXPECT_EQ(box.text(), "25 ");
+}
+
+// An assignment of the text held raises no Change and moves no count, though
+// it puts the caret at 0.
+TEST_F(TextRevision, StaysWhenTheTextAssignedIsTheTextHeld) {
+  start();
+  Control& box = control("Box");
+  box.setText("7 ");
+  EXPECT_FALSE(movesText(box, [](Control& c) { c.setText("7 "); }));
+  box.setCaret(1);
+  EXPECT_FALSE(movesText(box, [](Control& c) { c.setText("7 "); }));
+  EXPECT_EQ(box.caret(), 0);
+}
+
+TEST_F(TextRevision, IsTheBoxsOwn) {
+  start();
+  Control& box = control("Box");
+  Control& other = control("Other");
+  const std::uint64_t otherBefore = other.textRevision();
+  box.setText("3 ");
+  app.typeCharacter('9');
+  EXPECT_EQ(other.textRevision(), otherBefore);
 }
 
 }  // namespace
