@@ -155,9 +155,10 @@ FormDesign veridraw7fDesign() {
                                   .lineNumbers = false});
   addResultsPanel(form.controls);
   // Last, so that it stands in front of the spare cells.
-  form.controls.push_back(pictureButton("CmdNotice", {120, 8160, 2655, 375}, Picture::Notice)
-                              .tip("Veridraw is free software under the GNU GPL, version 3 or later")
-                              .decoration());
+  form.controls.push_back(
+      pictureButton("CmdNotice", {120, 8160, 2655, 375}, Picture::Notice)
+          .tip("Veridraw is free software under the GNU GPL, version 3 or later")
+          .decoration());
   return form;
 }
 

@@ -6,11 +6,11 @@
 #include <iterator>
 #include <optional>
 
+#include "program/program.h"
 #include "runner/delivered_files.h"
 #include "runner/scenario_words.h"
 #include "runner/values.h"
 #include "screen/working_directory.h"
-#include "program/program.h"
 
 namespace veridraw::script {
 

@@ -31,4 +31,4 @@ fs::path makeWorkingDirectory(const std::string& prefix) {
   return pattern;
 }
 
-}  // namespace veridraw::script
+}  // namespace veridraw

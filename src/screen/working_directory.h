@@ -11,4 +11,4 @@ namespace veridraw {
 // the system's temporary folder. Throws std::runtime_error when it can't.
 std::filesystem::path makeWorkingDirectory(const std::string& prefix);
 
-}  // namespace veridraw::script
+}  // namespace veridraw

@@ -3,9 +3,9 @@
 // prize grid and the rows and captions of the summary.
 #include <gtest/gtest.h>
 
+#include "lotto/lotto_screen_support.h"
 #include "screen/strings.h"
 #include "support/lotto_lines.h"
-#include "lotto/lotto_screen_support.h"
 
 namespace veridraw::testing {
 namespace {
