@@ -20,14 +20,7 @@ FormDesign veridraw7bDesign() {
     textBox("TxtDrawnNumbers2", {2640, 6930, 375, 375}, "").at(7).back(colors::kBlue).fore(colors::kWhite).font(8.25, true).centred().lockedBox().noTabStop().read(Reading::Display).spoken("Drawn Bonus number"),
   });
   // clang-format on
-  for (int k = 1; k <= 6; ++k)
-    controls.push_back(textBox("TxtDrawnNumbers2", {360 + (k - 1) * 360, 6960, 350, 300}, "")
-                           .at(k)
-                           .centred()
-                           .lockedBox()
-                           .noTabStop()
-                           .read(Reading::Display)
-                           .spoken("Drawn Lotto number " + std::to_string(k)));
+  tickets::addDrawnLottoNumbers(controls, 360, "");
   for (int division = 1; division <= game.prizeRows; ++division) {
     const int top = 1800 + (division - 1) * 300;
     const std::string number = std::to_string(division);

@@ -171,14 +171,7 @@ FormDesign veridraw7eDesign() {
     label("LblPwrBall1", {11160, 1155, 510, 345}, "Power   Ball").at(1).centred().decoration(),
   });
   // clang-format on
-  for (int k = 1; k <= 6; ++k)
-    controls.push_back(textBox("TxtDrawnNumbers2", {120 + (k - 1) * 360, 6960, 350, 300})
-                           .at(k)
-                           .centred()
-                           .lockedBox()
-                           .noTabStop()
-                           .read(Reading::Display)
-                           .spoken("Drawn Lotto number " + std::to_string(k)));
+  tickets::addDrawnLottoNumbers(controls, 120, " ");
   addPrizeRows(controls, game.prizeRows);
   addTicketGrid(controls, game);
   addPowerBallEntry(controls, game.mostLines);

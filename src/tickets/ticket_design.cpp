@@ -168,6 +168,17 @@ std::vector<Meaning> matchMeanings(bool bonusInBlue) {
   return meanings;
 }
 
+void addDrawnLottoNumbers(std::vector<ControlDesign>& controls, int left, const std::string& text) {
+  for (int k = 1; k <= 6; ++k)
+    controls.push_back(textBox("TxtDrawnNumbers2", {left + (k - 1) * 360, 6960, 350, 300}, text)
+                           .at(k)
+                           .centred()
+                           .lockedBox()
+                           .noTabStop()
+                           .read(Reading::Display)
+                           .spoken("Drawn Lotto number " + std::to_string(k)));
+}
+
 void addLottoCells(std::vector<ControlDesign>& controls, const TicketGame& game, int gridLeft,
                    const std::array<int, 3>& spareLefts, int spareTop) {
   const ControlDesign cell =

@@ -86,6 +86,11 @@ inline constexpr const char* kPrizeGridName = "Prize grid";
 void addGrid(std::vector<ControlDesign>& controls, const ControlDesign& cell, int lines,
              int perLine, GridLayout layout);
 
+// The six boxes of the drawn Lotto numbers, TxtDrawnNumbers2(1) to (6), in a
+// row from `left` on, read as the drawn numbers, holding `text` at first (the
+// Lotto screen's are empty, the PowerBall screen's hold a blank).
+void addDrawnLottoNumbers(std::vector<ControlDesign>& controls, int left, const std::string& text);
+
 // The number cells of a Lotto ticket, from `gridLeft` on, read with the prompt
 // of the line; then its three spare cells after the grid, hidden and kept from
 // screen readers, at `spareLefts` on the row `spareTop`.
