@@ -31,6 +31,10 @@ void TicketScreen::ListClear1() {
   store::ClearList(*List2, kTicketListClears);
 }
 
+void TicketScreen::ListClear2() {
+  store::ClearList(*List1, store::kListedDraws);
+}
+
 // The draws of the game that are on disk, in ascending order; a draw above
 // 1500 is in no list.
 void TicketScreen::FileExists() {

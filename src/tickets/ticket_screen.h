@@ -125,6 +125,9 @@ class TicketScreen : public Form, public store::DrawFields, public store::Ticket
   void ListClear();
   // Empties the list of saved tickets beside a new ticket, List2.
   void ListClear1();
+  // Empties the list of draws, List1, 1500 times. A sub of every ticket
+  // screen that no event of theirs calls.
+  void ListClear2();
   // Fills List1 with the game's draws on disk.
   void FileExists();
   // Fills List2 with the game's saved tickets.
