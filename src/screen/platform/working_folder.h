@@ -42,7 +42,6 @@ class OutputFile {
   OutputFile& operator=(const OutputFile&) = delete;
   ~OutputFile();
 
-  bool isOpen() const { return handle_ != kNoHandle; }
   // Makes the bytes the whole content of the file, then closes it.
   Refusal writeWholeAndClose(std::string_view bytes);
 
